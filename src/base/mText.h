@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+/// The text functions whose exact meaning matters to files and dialogs. Positions are 1-based.
+/// They are not QString's own of similar name: Trim takes blanks only, Val reads a leading number.
+namespace mText {
+
+/// Without the blanks (character 32, no other white space) at both ends.
+QString Trim(QStringView text);
+
+/// The leading number of a text, 0 if there is none. Blanks are skipped everywhere; then an optional
+/// sign, digits, one decimal point, an exponent (E or D), or &H and &O with their digits (as 16-bit
+/// values of two's complement where at most four hexadecimal digits are given, else 32-bit);
+/// stops at the first character that doesn't belong. The point is the decimal sign in every locale.
+double Val(QStringView text);
+
+/// A number as text with a leading blank in place of the plus sign: " 3", "-0.5". Decimal point and
+/// leading zero in every locale, no trailing zeros; from 1E15 on in the form "1E+40".
+QString Str(double number);
+
+/// Str without the leading blank.
+QString NumberText(double number);
+
+/// Position of the first occurrence at or behind start, 0 if there is none. An empty sought text is
+/// found at start if start lies in the text or right behind it. A start below 1 finds nothing.
+qsizetype InStr(qsizetype start, QStringView text, QStringView sought,
+                Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
+
+/// length characters from the position on; fewer where the text ends. A start below 1 or a negative
+/// length gives an empty text.
+QString Mid(QStringView text, qsizetype start, qsizetype length);
+QString Mid(QStringView text, qsizetype start);
+QString Left(QStringView text, qsizetype length);
+QString Right(QStringView text, qsizetype length);
+
+/// Nearest whole number, halves to the even one.
+qint64 RoundToEven(double number);
+
+}  // namespace mText
