@@ -4,6 +4,7 @@
 
 #include "PixelArt.h"
 #include "SourceText.h"
+#include "SpecialCharacters.h"
 #include "base/WholeFile.h"
 
 namespace {
@@ -18,6 +19,7 @@ QByteArray BytesOf(const std::vector<Record> &records) {
 QByteArray Make(const QString &kind, const QStringList &sources) {
   if (sources.size() != 1) return {};
   if (kind == u"pixels") return BytesOf(PixelRecords(ReadSource(sources[0])));
+  if (kind == u"special-characters") return SpecialCharacterLines(ReadSource(sources[0]));
   return {};
 }
 
@@ -28,7 +30,7 @@ int main(int argc, char **argv) {
   const QStringList arguments = QCoreApplication::arguments();
   QTextStream errors(stderr);
   if (arguments.size() < 3) {
-    errors << "make_data pixels OUTPUT [SOURCE...]\n";
+    errors << "make_data pixels|special-characters OUTPUT [SOURCE...]\n";
     return 2;
   }
   try {

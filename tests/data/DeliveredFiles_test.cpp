@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QRegularExpression>
+
+#include "base/mText.h"
 
 using Qt::StringLiterals::operator""_s;
 
@@ -21,9 +24,28 @@ TEST(DeliveredFiles, HaveTheLengthsThatTheStartLooksFor) {
   } files[] = {
       {"File0001.dat", 13248}, {"File0002.dat", 17652}, {"File0003.dat", 2328},
       {"File0004.dat", 7884},  {"File0005.dat", 9168},  {"File0006.dat", 2640},
-      {"File0007.dat", 288},   {"File0009.dat", 2556},
+      {"File0007.dat", 288},   {"File0009.dat", 2556},  {"sc.dat", 3741},
   };
   for (const auto &[name, bytes] : files) {
     EXPECT_EQ(QFile(Delivered(QString::fromLatin1(name))).size(), bytes) << name;
+  }
+}
+
+// The window reads line by line: the html name is what stands up to the first ";", the number
+// begins at the first "&" from the fifth character on and runs to the second ";".
+TEST(DeliveredFiles, EverySpecialCharacterCutsIntoItsTwoCodes) {
+  QFile file(Delivered(u"sc.dat"_s));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QStringList lines = QString::fromLatin1(file.readAll()).split(u"\r\n"_s);
+  ASSERT_EQ(lines.size(), 236);
+  EXPECT_TRUE(lines.last().isEmpty());
+  static const QRegularExpression name(u"^&[A-Za-z]+[0-9]*;$"_s);
+  static const QRegularExpression number(u"^&#[0-9]+;$"_s);
+  for (const QString &line : lines.first(235)) {
+    const qsizetype first = mText::InStr(1, line, u";");
+    const qsizetype second = mText::InStr(first + 1, line, u";");
+    EXPECT_TRUE(name.match(mText::Left(line, first)).hasMatch()) << line.toStdString();
+    EXPECT_TRUE(number.match(mText::Mid(line, mText::InStr(5, line, u"&"), second)).hasMatch())
+        << line.toStdString();
   }
 }

@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "PixelArt.h"
+#include "SpecialCharacters.h"
 
 using Qt::StringLiterals::operator""_s;
 
@@ -14,6 +15,9 @@ SourceText Source(const QString &text) {
 
 void MakePixels(const QString &text) {
   PixelRecords(Source(text));
+}
+void MakeCharacters(const QString &text) {
+  SpecialCharacterLines(Source(text));
 }
 
 /// Two cells side by side, seven points drawn of eight records.
@@ -40,6 +44,11 @@ TEST(MakeData, RefusesASourceThatBreaksARuleWithFileAndLine) {
       {MakePixels, strip + u"colour k #ffffff"_s, "art.txt:5: \"k\" has a colour already"},
       {MakePixels, u"bytes 100"_s, "art.txt:1: not a whole number of records"},
       {MakePixels, u"\nsise 48 24"_s, "art.txt:2: not understood: sise 48 24"},
+      {MakeCharacters, u"lt 60\n\ngt 6x2"_s, "art.txt:3: not a name and a number"},
+      {MakeCharacters, u"lt 60\nle 60"_s, "art.txt:2: 60 comes twice"},
+      {MakeCharacters, u"lt 60\nlt 62"_s, "art.txt:2: lt comes twice"},
+      {MakeCharacters, u"; one\nlt 60"_s,
+       "art.txt:2: 1 characters in 12 bytes, must be 235 in 3741"},
   };
   for (const auto &[make, text, message] : cases) {
     try {
