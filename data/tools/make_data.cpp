@@ -5,6 +5,7 @@
 #include "PixelArt.h"
 #include "SourceText.h"
 #include "SpecialCharacters.h"
+#include "StencilLibrary.h"
 #include "base/WholeFile.h"
 
 namespace {
@@ -17,6 +18,11 @@ QByteArray BytesOf(const std::vector<Record> &records) {
 
 /// The bytes of the file to make, or nothing if there is no such kind or its sources are missing.
 QByteArray Make(const QString &kind, const QStringList &sources) {
+  if (kind == u"stencils" && !sources.isEmpty()) {
+    StencilLibrary library;
+    for (const QString &source : sources) library.Add(ReadSource(source));
+    return BytesOf(library.records());
+  }
   if (sources.size() != 1) return {};
   if (kind == u"pixels") return BytesOf(PixelRecords(ReadSource(sources[0])));
   if (kind == u"special-characters") return SpecialCharacterLines(ReadSource(sources[0]));
@@ -30,7 +36,7 @@ int main(int argc, char **argv) {
   const QStringList arguments = QCoreApplication::arguments();
   QTextStream errors(stderr);
   if (arguments.size() < 3) {
-    errors << "make_data pixels|special-characters OUTPUT [SOURCE...]\n";
+    errors << "make_data pixels|special-characters|stencils OUTPUT [SOURCE...]\n";
     return 2;
   }
   try {

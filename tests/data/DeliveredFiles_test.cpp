@@ -2,8 +2,10 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 
-#include "base/mText.h"
+#include "base/RecordFile.h"
+#include "stencils/StencilRecord.h"
 
 using Qt::StringLiterals::operator""_s;
 
@@ -48,4 +50,23 @@ TEST(DeliveredFiles, EverySpecialCharacterCutsIntoItsTwoCodes) {
     EXPECT_TRUE(number.match(mText::Mid(line, mText::InStr(5, line, u"&"), second)).hasMatch())
         << line.toStdString();
   }
+}
+
+TEST(DeliveredFiles, StencilsComeBehindTheirParentsUnderKeysOfTheirOwn) {
+  QSet<QString> keys{u"aa"_s};
+  int leaves = 0;
+  RecordFile<StencilRecord>(Delivered(u"htLib0001.htf"_s))
+      .Scan(1, [&](qint64 n, const StencilRecord &record) {
+        const QString key = record.Key.Trimmed();
+        const QString parent = record.ParentKey.Trimmed();
+        EXPECT_TRUE(keys.contains(parent)) << n;
+        EXPECT_FALSE(keys.contains(key)) << n;
+        EXPECT_TRUE(key.startsWith(parent) && key.size() == parent.size() + 2) << n;
+        EXPECT_EQ(key.back(), key[key.size() - 2]) << n;
+        EXPECT_FALSE(record.Description.Trimmed().isEmpty()) << n;
+        leaves += !record.HtmlSource.Trimmed().isEmpty();
+        keys.insert(key);
+        return true;
+      });
+  EXPECT_GT(leaves, 0);
 }
