@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QString>
-#include <QtEndian>
 #include <cstddef>
 
 #include "base/FixedText.h"
+#include "base/LittleEndian.h"
 
 /// A flag of the record: -1 on disk is true, anything else is false.
 struct FlagField {
-  qint16_le raw;
+  LittleEndian<qint16> raw;
   operator bool() const { return raw == -1; }
   FlagField &operator=(bool on) {
     raw = on ? -1 : 0;
@@ -18,14 +18,13 @@ struct FlagField {
 
 /// The record of preferences.dat, byte for byte as it lies on disk: little-endian numbers, no
 /// padding. All settings of the program; indices and ranges as told at each field.
-#pragma pack(push, 1)
 struct Preferences {
   FlagField StandardImageSettings;
   FlagField OtherImageSettings;
-  qint32_le ImageHeight;  ///< 0 small, 1 medium, 2 large, 3 big
-  qint32_le ImageWidth;   ///< as ImageHeight
-  quint8 ShowFilenames;   ///< 0 or 1
-  quint8 ShowImageBorder;  ///< 0 or 1
+  LittleEndian<qint32> ImageHeight;  ///< 0 small, 1 medium, 2 large, 3 big
+  LittleEndian<qint32> ImageWidth;   ///< as ImageHeight
+  quint8 ShowFilenames;              ///< 0 or 1
+  quint8 ShowImageBorder;            ///< 0 or 1
   FlagField StandartWebBrowser;
   FlagField OtherPreViewer;
   FixedText<500> ApplicationPath;
@@ -35,14 +34,14 @@ struct Preferences {
   FlagField SelfStencilsStandardPath;
   FlagField SelfStencilsOtherPath;
   FixedText<500> OtherStencilsPath;
-  qint32_le AppFontSize;  ///< 0 small, 1 normal, 2 large, 3 larger
+  LittleEndian<qint32> AppFontSize;  ///< 0 small, 1 normal, 2 large, 3 larger
   FlagField ShowStartWindow;
   FlagField reserved;  ///< written with the record, never read
   FlagField ForceDatabaseLoading;
   FlagField EditorStandardSettings;
   FixedText<500> EditorFontName;
-  qint16_le EditorFontSize;  ///< points
-  qint16_le TabulatorCount;  ///< blanks of one indent step
+  LittleEndian<qint16> EditorFontSize;  ///< points
+  LittleEndian<qint16> TabulatorCount;  ///< blanks of one indent step
   FlagField TemporaryPathStandard;
   FixedText<500> OtherTemporaryPath;
   FlagField FileBinding;
@@ -51,9 +50,9 @@ struct Preferences {
   FixedText<500> CompilerPath;
   FixedText<500> AppletViewerPath;
 };
-#pragma pack(pop)
 
 static_assert(sizeof(Preferences) == 3557);
+static_assert(alignof(Preferences) == 1);
 static_assert(offsetof(Preferences, ApplicationPath) == 18);
 static_assert(offsetof(Preferences, OtherStencilsPath) == 527);
 static_assert(offsetof(Preferences, ShowStartWindow) == 1031);
@@ -76,5 +75,6 @@ bool WritePreferencesFile(const QString &path, const Preferences &record);
 /// 10, 12, 14 for the indices 0 to 3 and 0 for any other.
 double PanelFontSize(const Preferences &record);
 
-/// Font size in points of the panels' title labels: two points below the trees, 8 or smaller as it is.
+/// Font size in points of the panels' title labels: two points below the trees, 8 or smaller as it
+/// is.
 double TitleFontSize(double panelFontSize);
