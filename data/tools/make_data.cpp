@@ -7,6 +7,7 @@
 #include "SpecialCharacters.h"
 #include "StencilLibrary.h"
 #include "base/WholeFile.h"
+#include "frame/Preferences.h"
 
 namespace {
 
@@ -18,6 +19,9 @@ QByteArray BytesOf(const std::vector<Record> &records) {
 
 /// The bytes of the file to make, or nothing if there is no such kind or its sources are missing.
 QByteArray Make(const QString &kind, const QStringList &sources) {
+  if (kind == u"preferences" && sources.isEmpty()) {
+    return BytesOf(std::vector{StandardPreferences()});
+  }
   if (kind == u"stencils" && !sources.isEmpty()) {
     StencilLibrary library;
     for (const QString &source : sources) library.Add(ReadSource(source));
@@ -36,7 +40,7 @@ int main(int argc, char **argv) {
   const QStringList arguments = QCoreApplication::arguments();
   QTextStream errors(stderr);
   if (arguments.size() < 3) {
-    errors << "make_data pixels|special-characters|stencils OUTPUT [SOURCE...]\n";
+    errors << "make_data pixels|special-characters|stencils|preferences OUTPUT [SOURCE...]\n";
     return 2;
   }
   try {

@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
+#include <QTemporaryDir>
 
 #include "base/RecordFile.h"
+#include "frame/Preferences.h"
 #include "stencils/StencilRecord.h"
 
 using Qt::StringLiterals::operator""_s;
@@ -31,6 +34,7 @@ TEST(DeliveredFiles, HaveTheLengthsThatTheStartLooksFor) {
   for (const auto &[name, bytes] : files) {
     EXPECT_EQ(QFile(Delivered(QString::fromLatin1(name))).size(), bytes) << name;
   }
+  EXPECT_EQ(QFile(u"" TAGWRIGHT_DELIVERED_PREFERENCES ""_s).size(), 3557);
 }
 
 // The window reads line by line: the html name is what stands up to the first ";", the number
@@ -69,4 +73,25 @@ TEST(DeliveredFiles, StencilsComeBehindTheirParentsUnderKeysOfTheirOwn) {
         return true;
       });
   EXPECT_GT(leaves, 0);
+}
+
+TEST(DeliveredFiles, ABuildLeavesAUsersPreferencesAlone) {
+  const QTemporaryDir folder;
+  const QString mine = folder.filePath(u"preferences.dat"_s);
+  const auto build = [&] {
+    return QProcess::execute(u"" TAGWRIGHT_CMAKE ""_s,
+                             {u"-DFROM=" TAGWRIGHT_DELIVERED_PREFERENCES ""_s, u"-DTO="_s + mine,
+                              u"-P"_s, u"" TAGWRIGHT_COPY_IF_MISSING ""_s});
+  };
+  Preferences record = StandardPreferences();
+  record.EditorFontSize = 14;
+  ASSERT_TRUE(WritePreferencesFile(mine, record));
+  ASSERT_EQ(build(), 0);
+  ASSERT_TRUE(ReadPreferencesFile(mine, record));
+  EXPECT_EQ(int(record.EditorFontSize), 14);
+
+  ASSERT_TRUE(QFile::remove(mine));
+  ASSERT_EQ(build(), 0);
+  ASSERT_TRUE(ReadPreferencesFile(mine, record));
+  EXPECT_EQ(record.EditorFontName.Trimmed(), u"Courier New"_s);
 }
