@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 
+#include "base/DataFiles.h"
 #include "base/mPlatform.h"
 
 namespace mFolders {
@@ -25,18 +26,6 @@ bool CopyPreferences(const QString &from, const QString &to) {
 
 QString Join(const QString &folder, const QString &name) {
   return folder + mPlatform::Current().separator + name;
-}
-
-const QStringList &DataFileNames() {
-  static const QStringList names = {
-      QStringLiteral("File0001.dat"), QStringLiteral("File0002.dat"),
-      QStringLiteral("File0003.dat"), QStringLiteral("File0004.dat"),
-      QStringLiteral("File0005.dat"), QStringLiteral("File0006.dat"),
-      QStringLiteral("File0007.dat"), preferencesFile,
-      QStringLiteral("sc.dat"),       QStringLiteral("htLib0001.htf"),
-      QStringLiteral("File0009.dat"),
-  };
-  return names;
 }
 
 QString ChooseProgramFolder(const ProgramFolderSources &sources) {

@@ -9,10 +9,6 @@ namespace mFolders {
 /// Folder, separator, name. A folder that ends in a separator gives a doubled one, which stays.
 QString Join(const QString &folder, const QString &name);
 
-/// Names of the files that an installation delivers to the program folder, in the order of the
-/// start-up test.
-const QStringList &DataFileNames();
-
 /// What the choice of the program folder depends on.
 struct ProgramFolderSources {
   QString environmentFolder;  ///< TAGWRIGHT_FOLDER as it stands, empty if not set

@@ -1,5 +1,7 @@
 #include "base/mFolders.h"
 
+#include "base/DataFiles.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -27,7 +29,7 @@ class mFoldersTest : public testing::Test {
                                          .executableFolder = InRoot("bin"),
                                          .userDataFolder = InRoot("home/.local/tagwright"),
                                          .sharedDataFolder = InRoot("bin/../share/tagwright"),
-                                         .dataFiles = mFolders::DataFileNames()};
+                                         .dataFiles = DataFileNames()};
 };
 
 TEST_F(mFoldersTest, TheProgramFolderIsTheFirstThatIsGiven) {

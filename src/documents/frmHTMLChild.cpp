@@ -1,0 +1,230 @@
+#include "documents/frmHTMLChild.h"
+
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+#include <QMdiArea>
+#include <QPointer>
+
+#include "base/WholeFile.h"
+#include "base/mText.h"
+#include "documents/DocumentName.h"
+#include "documents/DocumentText.h"
+#include "documents/LineNumbers.h"
+#include "documents/OpenFilesTree.h"
+#include "documents/SaveQuestion.h"
+#include "documents/mEditors.h"
+#include "frame/mPublic.h"
+#include "toolkit/DoEvents.h"
+
+namespace {
+
+constexpr int lineNumbers = 200;
+
+// The two boxes stand three pixels apart in height; these margins put their lines level.
+constexpr int textMargin = 4;
+constexpr int lineNumberMargin = 1;
+
+// Tag colours are made for black on white, whatever the desktop's scheme.
+QPalette Paper() {
+  QPalette paper;
+  paper.setColor(QPalette::Base, Qt::white);
+  paper.setColor(QPalette::Text, Qt::black);
+  return paper;
+}
+
+void SetUpBox(RichTextBox &box, const char *name, int margin) {
+  box.setObjectName(QLatin1String(name));
+  box.setFont(QFont(QStringLiteral("Courier New"), 10));
+  box.setFrameShape(QFrame::NoFrame);
+  box.document()->setDocumentMargin(margin);
+  box.setPalette(Paper());
+}
+
+}  // namespace
+
+frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
+  setObjectName(QStringLiteral("frmHTMLChild"));
+  setAttribute(Qt::WA_DeleteOnClose, false);
+  txthtml = new RichTextBox(client_);
+  SetUpBox(*txthtml, "txthtml", textMargin);
+  txthtml->SetForeignReplacement([this](char32_t codePoint) {
+    return DocumentName::IsJava(caption_) ? ForeignText::JavaEscape(codePoint)
+                                          : ForeignText::NumericReference(codePoint);
+  });
+  rtfLineNumber = new RichTextBox(client_);
+  SetUpBox(*rtfLineNumber, "rtfLineNumber", lineNumberMargin);
+  rtfLineNumber->setReadOnly(true);
+  rtfLineNumber->setFocusPolicy(Qt::NoFocus);
+  rtfLineNumber->setTextInteractionFlags(Qt::NoTextInteraction);
+  rtfLineNumber->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  rtfLineNumber->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  cmdDummy = new QPushButton(client_);
+  cmdDummy->setObjectName(QStringLiteral("cmdDummy"));
+  cmdDummy->hide();
+
+  client_->setPalette(Paper());
+  client_->setBackgroundRole(QPalette::Base);
+  client_->setAutoFillBackground(true);
+  setWidget(client_);
+  client_->setFocusProxy(txthtml);
+  client_->setMouseTracking(true);
+  client_->installEventFilter(this);
+  txthtml->installEventFilter(this);
+  rtfLineNumber->viewport()->installEventFilter(this);
+  connect(txthtml, &RichTextBox::textChanged, this, &mEditors::TakeActiveFromFront);
+}
+
+void frmHTMLChild::Load() {
+  if (auto *editor = mEditors::Active()) editor->firstNumberedLine = 1;
+}
+
+void frmHTMLChild::SetCaption(const QString &caption) {
+  caption_ = caption;
+  // A title would show "[*]" as the mark of a modified window.
+  QString title = caption;
+  setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+}
+
+int frmHTMLChild::Slot() const {
+  return int(mText::Val(Tag));
+}
+
+void frmHTMLChild::GotFocus() {
+  if (!IsUnloaded()) mPublic::iActualEditor = Slot();
+}
+
+// ---- layout, in pixels of the client area
+
+void frmHTMLChild::PlaceBoxes() {
+  const QPointer<frmHTMLChild> self(this);
+  const auto gone = [&self] { return !self || self->IsUnloaded(); };
+  rtfLineNumber->setGeometry(-1, 2, 54, mEditors::Area().height() - 16);
+  DoEvents();
+  if (gone()) return;
+  rtfLineNumber->setPlainText(LineNumberText(1, lineNumbers));
+  txthtml->setGeometry(55, -1, client_->width() - rtfLineNumber->width(), client_->height() + 1);
+  DoEvents();
+}
+
+// Pumping lets the next size arrive in the middle; it is handled when this one is done.
+void frmHTMLChild::Resize() {
+  if (resizing_) {
+    resizeAgain_ = true;
+    return;
+  }
+  const QPointer<frmHTMLChild> self(this);
+  resizing_ = true;
+  do {
+    resizeAgain_ = false;
+    ResizeOnce();
+    if (!self) return;
+  } while (resizeAgain_);
+  resizing_ = false;
+}
+
+void frmHTMLChild::ResizeOnce() {
+  if (IsUnloaded()) return;
+  if (Slot() == 0) {
+    Unload(*this);
+    return;
+  }
+  if (mPublic::bAppClosing || Slot() < 0) return;
+  mPublic::iActualEditor = Slot();
+  const QPointer<frmHTMLChild> self(this);
+  const auto pumped = [&self] {
+    DoEvents();
+    return self && !self->IsUnloaded();
+  };
+  if (!pumped()) return;
+  txthtml->move(51, -1);
+  if (!pumped()) return;
+  txthtml->resize(txthtml->width(), client_->height() + 2);
+  if (!pumped()) return;
+  txthtml->resize(client_->width() - 50, txthtml->height());
+  if (!pumped()) return;
+  txthtml->viewport()->update();
+  rtfLineNumber->setFont(txthtml->font());
+  rtfLineNumber->move(-1, 2);
+  if (!pumped()) return;
+  rtfLineNumber->resize(54, client_->height() - 16);
+  if (!pumped()) return;
+  rtfLineNumber->setPlainText(LineNumberText(1, lineNumbers));
+  pumped();
+}
+
+void frmHTMLChild::RepairLayout() {
+  const QSize right(client_->width() - 50, client_->height() + 2);
+  if (txthtml->size() != right) txthtml->resize(right);
+  DoEvents();
+}
+
+// ---- events
+
+bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == txthtml) {
+    if (event->type() == QEvent::KeyPress) MarkAsTyped();
+    // Letters composed by an input method come without a key.
+    if (event->type() == QEvent::InputMethod &&
+        !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty()) {
+      MarkAsTyped();
+    }
+    return false;
+  }
+  if (watched == rtfLineNumber->viewport()) {
+    if (event->type() != QEvent::Wheel) return false;
+    QCoreApplication::sendEvent(txthtml->viewport(), event);
+    return true;
+  }
+  if (watched == client_ && event->type() == QEvent::Resize) {
+    Resize();
+  } else if (watched == client_ && event->type() == QEvent::MouseMove) {
+    RepairLayout();
+  }
+  return FormOf::eventFilter(watched, event);
+}
+
+// Every key counts as a change, also one that only moves the caret.
+void frmHTMLChild::MarkAsTyped() {
+  if (Slot() <= 0 || IsUnloaded()) return;
+  mPublic::aEditorState[Slot()].changed = true;
+  mPublic::iActualEditor = Slot();
+}
+
+// ---- closing
+
+bool frmHTMLChild::QueryUnload(UnloadMode) {
+  const int slot = Slot();
+  if (slot <= 0) return true;
+  mPublic::EditorState &state = mPublic::aEditorState[slot];
+  mPublic::iActualEditor = slot;
+  bool agreed = true;
+  if (!state.changed) {
+    state.open = false;
+  } else {
+    mEditors::BringToTop(*this);
+    DoEvents();
+    if (DocumentName::IsUnsaved(caption_)) {
+      // Dropped without a question. The slot stays marked as changed for its next document.
+      state.open = false;
+    } else {
+      switch (AskWhetherToSave()) {
+        case Dialogs::Answer::Yes:
+          // The text must not go down with a file that couldn't be written.
+          if (!WriteWholeFile(caption_, PrintedText(txthtml->Text()))) return false;
+          [[fallthrough]];
+        case Dialogs::Answer::No:
+          state = {};
+          break;
+        default:
+          agreed = false;
+      }
+    }
+  }
+  RebuildOpenFilesTree();
+  mPublic::SelectFirstOpenEditor();
+  return agreed;
+}
+
+void frmHTMLChild::Unloaded() {
+  mEditors::TakeFromArea(*this);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QMdiSubWindow>
+#include <QPushButton>
+#include <QString>
+
+#include "toolkit/RichTextBox.h"
+#include "toolkit/mForms.h"
+
+/// An editor window, which is the document: its text is that of txthtml, its name the caption, its
+/// slot the tag. Owns its text; nothing else holds a document.
+class frmHTMLChild : public FormOf<QMdiSubWindow> {
+  Q_OBJECT
+
+ public:
+  frmHTMLChild();
+
+  RichTextBox *txthtml;
+  RichTextBox *rtfLineNumber;
+  QPushButton *cmdDummy;  ///< never seen; a control that can take the focus
+
+  /// The full path of the file, or exactly "<unsaved>".
+  const QString &Caption() const { return caption_; }
+  void SetCaption(const QString &caption);
+
+  /// The slot number as text; empty for a window without a slot.
+  QString Tag;
+
+  /// The zero-based first visible line that the line numbers were last built for.
+  int firstNumberedLine = 0;
+
+  /// The slot that the tag names, 0 for a window without one.
+  int Slot() const;
+
+  void Load() override;
+  bool QueryUnload(UnloadMode mode) override;
+  void Unloaded() override;
+
+  /// The first layout of a new window. Pumps events: the window may be gone afterwards.
+  void PlaceBoxes();
+
+  /// Makes this the active document, as when the user turns to its window.
+  void GotFocus();
+
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  void Resize();
+  void ResizeOnce();
+  void RepairLayout();
+  void MarkAsTyped();
+
+  QString caption_;
+  QWidget *client_;
+  bool resizing_ = false;
+  bool resizeAgain_ = false;
+};

@@ -1,0 +1,93 @@
+#include "documents/mEditors.h"
+
+#include <QMdiArea>
+
+#include "base/mText.h"
+#include "frame/mdiMain.h"
+#include "toolkit/DoEvents.h"
+
+namespace mEditors {
+
+std::array<QPointer<frmHTMLChild>, mPublic::LastSlot + 1> aEditorWindow;
+
+namespace {
+
+// The window that was in front last. The area announces the same window again whenever the program
+// becomes the active one; only another window means that the user has turned to it.
+QPointer<QMdiSubWindow> inFront;
+bool takingAway = false;
+
+void SetFonts(frmHTMLChild &editor) {
+  mPublic::ReadPreferences();
+  const int size = mPublic::recPreferences.EditorFontSize;
+  const QString name = mPublic::recPreferences.EditorFontName.Trimmed();
+  for (RichTextBox *box : {editor.txthtml, editor.rtfLineNumber}) {
+    QFont font = box->font();
+    if (size > 0) font.setPointSize(size);
+    if (!name.isEmpty()) font.setFamily(name);
+    box->setFont(font);
+  }
+}
+
+}  // namespace
+
+frmHTMLChild *Active() {
+  const int slot = mPublic::iActualEditor;
+  if (slot < 1 || slot > mPublic::LastSlot || !mPublic::aEditorState[slot].open) return nullptr;
+  return aEditorWindow[slot];
+}
+
+QMdiArea &Area() {
+  return *Default<mdiMain>()->mdiArea;
+}
+
+frmHTMLChild *OpenWindow() {
+  const int slot = mPublic::FirstFreeSlot();
+  if (slot == 0) return nullptr;
+  mPublic::aEditorState[slot].open = true;
+  mPublic::iActualEditor = slot;
+  const QPointer<frmHTMLChild> editor = new frmHTMLChild;
+  aEditorWindow[slot] = editor;
+  editor->Tag = QString::number(slot);
+  editor->Load();
+  SetFonts(*editor);
+
+  QMdiArea &area = Area();
+  area.addSubWindow(editor);
+  editor->resize(area.viewport()->size() * 3 / 4);
+  editor->show();
+  const auto gone = [&editor] { return !editor || editor->IsUnloaded(); };
+  if (gone()) return nullptr;
+  editor->PlaceBoxes();
+  if (gone()) return nullptr;
+  editor->txthtml->setFocus();
+  if (!editor->isMaximized() && !editor->isMinimized()) {
+    editor->resize(editor->width() + 100, editor->height());
+  }
+  return gone() ? nullptr : editor.data();
+}
+
+void BringToTop(frmHTMLChild &editor) {
+  Area().setActiveSubWindow(&editor);
+  editor.raise();
+}
+
+void TakeFromArea(frmHTMLChild &editor) {
+  takingAway = true;
+  if (QMdiArea *area = editor.mdiArea()) area->removeSubWindow(&editor);
+  takingAway = false;
+}
+
+void WindowActivated(QMdiSubWindow *window) {
+  if (!window || window == inFront) return;
+  inFront = window;
+  if (takingAway) return;
+  if (auto *editor = qobject_cast<frmHTMLChild *>(window)) editor->GotFocus();
+}
+
+void TakeActiveFromFront() {
+  auto *editor = qobject_cast<frmHTMLChild *>(Area().currentSubWindow());
+  if (editor && !editor->Caption().isEmpty()) editor->GotFocus();
+}
+
+}  // namespace mEditors

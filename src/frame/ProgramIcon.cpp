@@ -1,0 +1,31 @@
+#include "frame/ProgramIcon.h"
+
+#include <QPainter>
+
+#include "toolkit/DrawnIcon.h"
+
+namespace {
+
+void DrawIcon(QPainter &painter) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0x1d, 0x2b, 0x3f));
+  painter.drawRoundedRect(QRectF(1, 1, 30, 30), 5, 5);
+  DrawProgramSign(painter);
+}
+
+}  // namespace
+
+void DrawProgramSign(QPainter &painter) {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(QColor(0xf2, 0xc9, 0x4c), 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  const QPointF opening[] = {{12, 8}, {5, 16}, {12, 24}};
+  const QPointF closing[] = {{20, 8}, {27, 16}, {20, 24}};
+  painter.drawPolyline(opening, 3);
+  painter.drawPolyline(closing, 3);
+  painter.setPen(QPen(Qt::white, 1.6, Qt::SolidLine, Qt::RoundCap));
+  painter.drawLine(QPointF(16, 9), QPointF(16, 23));
+}
+
+QIcon ProgramIcon() {
+  return DrawnIcon(32, DrawIcon);
+}

@@ -1,0 +1,61 @@
+#include "frame/mPublic.h"
+
+#include <algorithm>
+
+#include "base/mFolders.h"
+
+namespace mPublic {
+
+std::array<EditorState, LastSlot + 1> aEditorState;
+int iActualEditor = 0;
+bool bAppClosing = false;
+Preferences recPreferences{};
+std::array<qint16, 4> aFormatColor{};
+QString strAppTitle;
+
+namespace {
+const QString preferencesName = QStringLiteral("preferences.dat");
+}
+
+void ReadPreferences() {
+  ReadPreferencesFile(mFolders::InProgramFolder(preferencesName), recPreferences);
+}
+
+bool WritePreferences() {
+  return WritePreferencesFile(mFolders::InProgramFolder(preferencesName), recPreferences);
+}
+
+bool AnyEditorOpen() {
+  return CountOpenEditors() > 0;
+}
+
+int CountOpenEditors() {
+  return int(std::count_if(aEditorState.begin() + 1, aEditorState.end(),
+                           [](const EditorState &state) { return state.open; }));
+}
+
+int FirstFreeSlot() {
+  for (int slot = 1; slot <= LastSlot; ++slot) {
+    if (!aEditorState[slot].open) return slot;
+  }
+  return 0;
+}
+
+int NextOpenEditor(int mode) {
+  static int counter = 0;
+  if (mode == -1) return counter = 0;
+  if (mode == 0) ++counter;
+  for (int slot = std::max(counter, 0); slot <= LastSlot; ++slot) {
+    if (aEditorState[slot].open) return counter = slot;
+  }
+  return counter;
+}
+
+void SelectFirstOpenEditor() {
+  iActualEditor = 0;
+  for (int slot = 1; slot <= LastSlot && iActualEditor == 0; ++slot) {
+    if (aEditorState[slot].open) iActualEditor = slot;
+  }
+}
+
+}  // namespace mPublic

@@ -1,0 +1,210 @@
+#include "frame/mdiMain.h"
+
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QMimeData>
+#include <QScreen>
+#include <utility>
+
+#include "base/mFolders.h"
+#include "base/mText.h"
+#include "documents/FileCommands.h"
+#include "documents/OpenFilesTree.h"
+#include "documents/mEditors.h"
+#include "frame/ApplyPreferences.h"
+#include "frame/PixelFile.h"
+#include "frame/mPublic.h"
+#include "stencils/LoadStencilTrees.h"
+#include "toolkit/DoEvents.h"
+
+namespace {
+
+const QString caption =
+    QStringLiteral("nimbara works tagwright - hypertext authoring bench  v1.100 ");
+const QString fileFilter = QStringLiteral(
+    "*.html|*.html|*.htm|*.htm|*.html and *.htm|*.html;*.htm|*.java|*.java|All files *.*|*.*");
+constexpr int untilStencilsLoad = 4000;  // milliseconds
+constexpr QSize firstSize(1280, 800);
+constexpr int panelWidth = 250;
+
+QString commandLine;
+
+// The first local file of a drop, or nothing.
+QString FirstFile(const QMimeData &data) {
+  const auto urls = data.urls();
+  return urls.isEmpty() ? QString() : urls.constFirst().toLocalFile();
+}
+
+}  // namespace
+
+void SetCommandLine(const QString &line) {
+  commandLine = line;
+}
+
+mdiMain::mdiMain() {
+  setupUi(this);
+  setCentralWidget(splClient);
+  FillBars();
+  ConnectMenus();
+  cdgFileOpen.Filter = cdgFileSave.Filter = fileFilter;
+  timloadStencils = new QTimer(this);
+  timloadStencils->setObjectName(QStringLiteral("timloadStencils"));
+  timloadStencils->setInterval(untilStencilsLoad);
+  connect(timloadStencils, &QTimer::timeout, this, [this] {
+    timloadStencils->stop();
+    LoadStencilTrees(true, true);
+  });
+  // The window that comes to the front after a close is the one used before it.
+  mdiArea->setActivationOrder(QMdiArea::ActivationHistoryOrder);
+  connect(mdiArea, &QMdiArea::subWindowActivated, this, &mEditors::WindowActivated);
+  new OpenFilesTreeHandlers(trwOpenFiles);
+  trwOpenFiles->installEventFilter(this);
+}
+
+void mdiMain::FillBars() {
+  const auto strip = [this](const char *name, Qt::Orientation direction, int buttons) {
+    auto *made = new ToolStrip(direction, buttons, this);
+    made->setObjectName(QLatin1String(name));
+    return made;
+  };
+  picColor = new QFrame(this);
+  picColor->setObjectName(QStringLiteral("picColor"));
+  picColor->setFrameShape(QFrame::Panel);
+  picColor->setFrameShadow(QFrame::Sunken);
+  picColor->setFixedSize(ToolStrip::Cell, ToolStrip::Cell);
+  picColor->setAutoFillBackground(true);
+  picColor->setPalette(QPalette(Qt::black));
+  cboFontStyle = new QComboBox(this);
+  cboFontStyle->setObjectName(QStringLiteral("cboFontStyle"));
+  cboFontStyle->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  cboFontStyle->setMinimumContentsLength(16);
+  cboFontsize = new QComboBox(this);
+  cboFontsize->setObjectName(QStringLiteral("cboFontsize"));
+  cbrTop->addWidget(picColor);
+  cbrTop->addWidget(picButtons = strip("picButtons", Qt::Horizontal, 17));
+  cbrTop->addSeparator();
+  cbrTop->addWidget(cboFontStyle);
+  cbrTop->addWidget(cboFontsize);
+  cbrTop->addSeparator();
+  cbrTop->addWidget(picHtmlTextOptions = strip("picHtmlTextOptions", Qt::Horizontal, 9));
+  cbrTop->addWidget(picLeftArrow = strip("picLeftArrow", Qt::Horizontal, 1));
+  barLeft->addWidget(picLeft = strip("picLeft", Qt::Vertical, 10));
+  cbrLeft->addWidget(picJava = strip("picJava", Qt::Vertical, 2));
+  cbrLeft->addWidget(picRight = strip("picRight", Qt::Vertical, 5));
+  barBottom->addWidget(picBottom = strip("picBottom", Qt::Horizontal, 2));
+}
+
+void mdiMain::ConnectMenus() {
+  connect(mnuFileNewFile, &QAction::triggered, this, &FileCommands::NewFile);
+  connect(mnuFileOpen, &QAction::triggered, this, &FileCommands::Open);
+  connect(mnuFileSave, &QAction::triggered, this, &FileCommands::Save);
+  connect(mnuFileSaveAs, &QAction::triggered, this, &FileCommands::SaveAs);
+  connect(mnuFileSaveAll, &QAction::triggered, this, &FileCommands::SaveAll);
+  connect(mnuFileQuit, &QAction::triggered, this, &mdiMain::mnuFileQuit_Click);
+}
+
+void mdiMain::Load() {
+  const QRect available = screen()->availableGeometry();
+  resize(firstSize.boundedTo(available.size()));
+  splClient->setStretchFactor(0, 1);
+  splClient->setSizes({width() - panelWidth, panelWidth});
+  move(available.center() - rect().center());
+  setWindowTitle(caption);
+  mPublic::strAppTitle = QStringLiteral("tagwright © v1.100 ");
+  cboFontsize->addItems({QStringLiteral(" 8 pt"), QStringLiteral("10 pt"), QStringLiteral("12 pt"),
+                         QStringLiteral("14 pt"), QStringLiteral("18 pt"), QStringLiteral("24 pt"),
+                         QStringLiteral("36 pt")});
+  cboFontsize->setCurrentIndex(2);
+  cboFontStyle->addItems(QFontDatabase::families());
+  cboFontStyle->setCurrentIndex(0);
+  AddTreeRoots();
+  SetTitlebarColor(0);
+  DrawStrips();
+  mPublic::aFormatColor.fill(128);
+  ApplyPreferences();
+  timloadStencils->start();
+}
+
+// Editor windows need the area's size, which the window has from its first show on, before it is
+// seen.
+void mdiMain::showEvent(QShowEvent *event) {
+  FormOf::showEvent(event);
+  const QString named = mText::Trim(std::exchange(commandLine, {}));
+  if (!named.isEmpty() && QFileInfo(named).isFile()) FileCommands::LoadFileIntoNewEditor(named);
+}
+
+void mdiMain::AddTreeRoots() {
+  const QString root = QStringLiteral("aa");
+  trwOpenFiles->ClearNodes();
+  trwOpenFiles->SetImageList(TreeImages());
+  trwOpenFiles->Add({}, QStringLiteral("Editor Windows"), root);
+  trwOpenFiles->Add(root, QStringLiteral("Markup Documents"), QStringLiteral("aaaa"));
+  trwOpenFiles->Add(root, QStringLiteral("Java Documents"), QStringLiteral("aabb"));
+  trwOpenFiles->Add(root, QStringLiteral("Unsaved Documents"), QStringLiteral("aacc"));
+  const auto stencilRoot = [&root](KeyedTree &tree, const QString &text) {
+    tree.ClearNodes();
+    tree.SetImageList(TreeImages());
+    tree.SetImage(tree.Add({}, text, root), 4);
+  };
+  stencilRoot(*trwStencils, QStringLiteral("Standard Stencils - html 4.01"));
+  stencilRoot(*trwSelfBuildedStencils, QStringLiteral("Self Builded Stencils"));
+}
+
+void mdiMain::DrawStrips() {
+  struct Artwork {
+    const char *file;
+    ToolStrip *strip;
+    bool pumpInside;
+  };
+  const Artwork artworks[] = {
+      {"File0001.dat", picButtons, false},
+      {"File0002.dat", picLeft, false},
+      {"File0003.dat", picBottom, false},
+      {"File0004.dat", picRight, false},
+      {"File0005.dat", picHtmlTextOptions, false},
+      {"File0007.dat", picLeftArrow, true},
+      {"File0009.dat", picJava, true},
+  };
+  for (const Artwork &artwork : artworks) {
+    ForEachPixel(mFolders::InProgramFolder(QLatin1String(artwork.file)),
+                 [&artwork](const PixelRecord &pixel) {
+                   artwork.strip->PSet(pixel.x, pixel.y, pixel.colour);
+                   if (artwork.pumpInside) DoEventsInLoop();
+                 });
+    DoEvents();
+  }
+}
+
+void mdiMain::SetTitlebarColor(int title) {
+  const auto paint = [this](QLabel &label, QPalette::ColorGroup group) {
+    QPalette colours = palette();
+    const bool active = group == QPalette::Active;
+    colours.setColor(QPalette::Window,
+                     colours.color(group, active ? QPalette::Highlight : QPalette::Mid));
+    colours.setColor(QPalette::WindowText, colours.color(group, active ? QPalette::HighlightedText
+                                                                       : QPalette::WindowText));
+    label.setPalette(colours);
+  };
+  const std::pair<int, QLabel *> labels[] = {{1, lblWindowTitelOpenFiles},
+                                             {2, lblWindowTitelStencilWindow},
+                                             {4, lblWindowTitelTagDescription}};
+  for (const auto &[number, label] : labels) {
+    paint(*label, number == title ? QPalette::Active : QPalette::Inactive);
+  }
+}
+
+bool mdiMain::eventFilter(QObject *watched, QEvent *event) {
+  if (watched == trwOpenFiles && event->type() == QEvent::FocusIn) SetTitlebarColor(1);
+  if (watched == trwOpenFiles && event->type() == QEvent::FocusOut) SetTitlebarColor(0);
+  return FormOf::eventFilter(watched, event);
+}
+
+void mdiMain::dragEnterEvent(QDragEnterEvent *event) {
+  if (!FirstFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void mdiMain::dropEvent(QDropEvent *event) {
+  event->acceptProposedAction();
+  FileCommands::OpenDroppedFile(FirstFile(*event->mimeData()));
+}

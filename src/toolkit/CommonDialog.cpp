@@ -1,0 +1,21 @@
+#include "toolkit/CommonDialog.h"
+
+#include <QFileInfo>
+
+#include "toolkit/Dialogs.h"
+
+bool CommonDialog::ShowOpen() {
+  const auto chosen = Dialogs::Current().OpenFile({Filter, FileName});
+  if (chosen) FileName = *chosen;
+  return chosen.has_value();
+}
+
+bool CommonDialog::ShowSave() {
+  const auto chosen = Dialogs::Current().SaveFile({Filter, FileName});
+  if (chosen) FileName = *chosen;
+  return chosen.has_value();
+}
+
+QString CommonDialog::FileTitle() const {
+  return QFileInfo(FileName).fileName();
+}

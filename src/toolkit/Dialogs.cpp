@@ -1,0 +1,112 @@
+#include "toolkit/Dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "toolkit/FileFilter.h"
+
+namespace {
+
+class PlatformDialogs : public Dialogs {
+ public:
+  Answer Message(const QString &text, Buttons buttons, Icon icon, const QString &title) override {
+    QMessageBox box(QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    box.setWindowTitle(title);
+    box.setIcon(BoxIcon(icon));
+    box.setStandardButtons(BoxButtons(buttons));
+    switch (box.exec()) {
+      case QMessageBox::Yes:
+        return Answer::Yes;
+      case QMessageBox::No:
+        return Answer::No;
+      case QMessageBox::Ok:
+        return Answer::Ok;
+      default:
+        return ClosedWithoutButton(buttons);
+    }
+  }
+
+  std::optional<QString> OpenFile(const FileRequest &request) override {
+    return Choose(request, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
+  }
+
+  std::optional<QString> SaveFile(const FileRequest &request) override {
+    return Choose(request, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+  }
+
+ private:
+  static QMessageBox::Icon BoxIcon(Icon icon) {
+    switch (icon) {
+      case Icon::Information:
+        return QMessageBox::Information;
+      case Icon::Question:
+        return QMessageBox::Question;
+      case Icon::Critical:
+        return QMessageBox::Critical;
+      default:
+        return QMessageBox::NoIcon;
+    }
+  }
+
+  static QMessageBox::StandardButtons BoxButtons(Buttons buttons) {
+    switch (buttons) {
+      case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+      case Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+      default:
+        return QMessageBox::Ok;
+    }
+  }
+
+  static Answer ClosedWithoutButton(Buttons buttons) {
+    switch (buttons) {
+      case Buttons::Ok:
+        return Answer::Ok;
+      case Buttons::YesNo:
+        return Answer::No;
+      default:
+        return Answer::Cancel;
+    }
+  }
+
+  std::optional<QString> Choose(const FileRequest &request, QFileDialog::AcceptMode mode,
+                                QFileDialog::FileMode files) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(files);
+    dialog.setNameFilters(NameFilters(request.filter));
+    // The dialogs of a session share their folder: the next one begins where the last one ended.
+    if (!lastFolder_.isEmpty()) dialog.setDirectory(lastFolder_);
+    if (!request.fileName.isEmpty()) {
+      const QFileInfo file(request.fileName);
+      dialog.setDirectory(file.absolutePath());
+      dialog.selectFile(file.fileName());
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    lastFolder_ = dialog.directory().absolutePath();
+    return dialog.selectedFiles().constFirst();
+  }
+
+  QString lastFolder_;
+};
+
+std::unique_ptr<Dialogs> &InUse() {
+  static std::unique_ptr<Dialogs> dialogs;
+  return dialogs;
+}
+
+}  // namespace
+
+Dialogs &Dialogs::Current() {
+  if (!InUse()) InUse() = std::make_unique<PlatformDialogs>();
+  return *InUse();
+}
+
+void Dialogs::Set(std::unique_ptr<Dialogs> dialogs) {
+  InUse() = std::move(dialogs);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+#include <optional>
+
+/// The one way to the dialogs that the platform provides. Tests put a scripted one in its place.
+class Dialogs {
+ public:
+  enum class Buttons { Ok, YesNo, YesNoCancel };
+  enum class Icon { None, Information, Question, Critical };
+  enum class Answer { Ok, Yes, No, Cancel };
+
+  /// What a file dialog starts with.
+  struct FileRequest {
+    QString filter;    ///< pairs "label|patterns|label|patterns", patterns separated by ";"
+    QString fileName;  ///< a path to begin at, or empty
+  };
+
+  virtual ~Dialogs() = default;
+
+  /// Shows a message box in front of the active window and waits for its answer. Closing it
+  /// without a button is Cancel, or No or Ok where there is no Cancel.
+  virtual Answer Message(const QString &text, Buttons buttons, Icon icon, const QString &title) = 0;
+
+  /// The path that the user chose, or nothing after Cancel.
+  virtual std::optional<QString> OpenFile(const FileRequest &request) = 0;
+  virtual std::optional<QString> SaveFile(const FileRequest &request) = 0;
+
+  /// The dialogs in use: the platform's own unless others have been set.
+  static Dialogs &Current();
+
+  /// Puts other dialogs in place; null puts the platform's own back.
+  static void Set(std::unique_ptr<Dialogs> dialogs);
+};

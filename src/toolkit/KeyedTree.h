@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QHash>
+#include <QIcon>
+#include <QString>
+#include <QTreeWidget>
+#include <QVector>
+#include <vector>
+
+/// A tree whose nodes are reached by key or by their ordinal number in the order of adding,
+/// 1-based. The tree owns its nodes.
+class KeyedTree : public QTreeWidget {
+  Q_OBJECT
+
+ public:
+  explicit KeyedTree(QWidget *parent = nullptr);
+
+  /// Takes away all nodes.
+  void ClearNodes();
+
+  /// The pictures that SetImage counts, 1-based.
+  void SetImageList(const QVector<QIcon> &images) { images_ = images; }
+
+  /// Adds a node as the last child of the node with the parent key, or as a root if that is empty;
+  /// collapsed, without picture. Null, and no node, if there is no such parent or the key is taken.
+  /// A node may do without a key.
+  QTreeWidgetItem *Add(const QString &parentKey, const QString &text, const QString &key = {});
+
+  int NodeCount() const { return int(nodes_.size()); }
+  QTreeWidgetItem *Node(int ordinal) const;  ///< null if there is none
+  QTreeWidgetItem *NodeByKey(const QString &key) const { return byKey_.value(key); }
+
+  /// Gives a node the picture of that number; a number without a picture takes it away. A null node
+  /// is skipped.
+  void SetImage(QTreeWidgetItem *node, int image);
+
+ private:
+  QVector<QIcon> images_;
+  std::vector<QTreeWidgetItem *> nodes_;
+  QHash<QString, QTreeWidgetItem *> byKey_;
+};

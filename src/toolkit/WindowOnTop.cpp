@@ -1,0 +1,9 @@
+#include "toolkit/WindowOnTop.h"
+
+#include <QWidget>
+
+void SetWindowOnTop(QWidget &window, bool onTop) {
+  if (!onTop) return;
+  window.raise();
+  window.activateWindow();
+}
