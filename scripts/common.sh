@@ -1,0 +1,44 @@
+# What the project's commands share. Sourced by them, with the name of the command in $command.
+# The working folder is the top of the project.
+
+say() { printf '%s: %s\n' "$command" "$*"; }
+
+fail() {
+  printf '%s: failed: %s\n' "$command" "$*" >&2
+  exit 1
+}
+
+# Installs the packages that are missing; quick and silent when none is.
+install_missing() {
+  local wanted missing
+  wanted=$(sed -e 's/#.*//' packaging/build-packages.txt | tr -s '[:space:]' '\n' | sed '/^$/d')
+  missing=$(comm -23 <(sort -u <<<"$wanted") \
+    <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' $wanted 2>/dev/null |
+      sed -n 's/^installed //p' | sort -u))
+  [ -z "$missing" ] && return
+  say "installing" $missing
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || fail "need root or sudo to install" $missing
+    as_root=(sudo)
+  fi
+  mkdir -p build
+  {
+    "${as_root[@]}" apt-get update &&
+      "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends $missing
+  } >build/install.log 2>&1 </dev/null || fail "installing packages, see build/install.log"
+}
+
+# build PRESET: configures and builds; what the tools print goes to a log.
+build() {
+  local preset=$1 configured=${2:-$1} log=build/$1.log
+  mkdir -p build
+  say "building $preset"
+  {
+    cmake --preset "$configured" && cmake --build --preset "$preset"
+  } >"$log" 2>&1 </dev/null || {
+    grep -E -A3 'error|FAILED' "$log" | head -n 40 >&2
+    fail "building $preset, see $log"
+  }
+}
