@@ -42,3 +42,26 @@ build() {
     fail "building $preset, see $log"
   }
 }
+
+# Starts a virtual display of our own, tells programs to use it, and ends it with the shell. Sets
+# $private, a folder that goes with it.
+start_virtual_display() {
+  private=$(mktemp -d) || fail "making a temporary folder"
+  children=()
+  trap 'kill "${children[@]}" 2>/dev/null; wait 2>/dev/null; rm -rf "$private"' EXIT
+  # Xvfb picks a free display and tells which.
+  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$private/display" 2>"$private/xvfb.log" &
+  children+=($!)
+  for _ in $(seq 100); do
+    [ -s "$private/display" ] && break
+    sleep 0.1
+  done
+  [ -s "$private/display" ] || fail "starting Xvfb: $(head -n 1 "$private/xvfb.log")"
+  DISPLAY=:$(cat "$private/display")
+  # A runtime folder of its own, so that a running program is no hindrance.
+  XDG_RUNTIME_DIR=$private/runtime
+  mkdir -m 700 "$XDG_RUNTIME_DIR"
+  QT_QPA_PLATFORM=xcb
+  export DISPLAY XDG_RUNTIME_DIR QT_QPA_PLATFORM
+  unset WAYLAND_DISPLAY
+}
