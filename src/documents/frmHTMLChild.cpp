@@ -4,6 +4,7 @@
 #include <QInputMethodEvent>
 #include <QMdiArea>
 #include <QPointer>
+#include <QShortcut>
 
 #include "base/WholeFile.h"
 #include "base/mText.h"
@@ -71,6 +72,10 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   client_->installEventFilter(this);
   txthtml->installEventFilter(this);
   rtfLineNumber->viewport()->installEventFilter(this);
+  // Beside the key that the toolkit's own window menu has for it.
+  auto *closeKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
+  closeKey->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(closeKey, &QShortcut::activated, this, &QWidget::close);
   connect(txthtml, &RichTextBox::textChanged, this, &mEditors::TakeActiveFromFront);
 }
 

@@ -1,6 +1,7 @@
 #include "documents/mEditors.h"
 
 #include <QMdiArea>
+#include <algorithm>
 
 #include "base/mText.h"
 #include "frame/mdiMain.h"
@@ -17,16 +18,31 @@ namespace {
 QPointer<QMdiSubWindow> inFront;
 bool takingAway = false;
 
+constexpr int longestIndent = 100;  // blanks
+
 void SetFonts(frmHTMLChild &editor) {
   mPublic::ReadPreferences();
   const int size = mPublic::recPreferences.EditorFontSize;
   const QString name = mPublic::recPreferences.EditorFontName.Trimmed();
+  const int indent = mPublic::recPreferences.TabulatorCount;
+  if (indent > 0) editor.txthtml->SetTabWidth(std::min(indent, longestIndent));
   for (RichTextBox *box : {editor.txthtml, editor.rtfLineNumber}) {
     QFont font = box->font();
     if (size > 0) font.setPointSize(size);
     if (!name.isEmpty()) font.setFamily(name);
     box->setFont(font);
   }
+}
+
+// A new window stands a title bar further down and to the right than the one of the slot before,
+// and leaves room for the ones to come and for the width that it gains at its end.
+void Cascade(frmHTMLChild &editor, const QSize &area) {
+  constexpr int step = 28;  // pixels
+  constexpr int inARow = 6;
+  constexpr int gainedWidth = 100;
+  const int place = (editor.Slot() - 1) % inARow * step;
+  const QSize room(inARow * step + gainedWidth, inARow * step);
+  editor.setGeometry(QRect(QPoint(place, place), (area - room).expandedTo(area / 2)));
 }
 
 }  // namespace
@@ -54,7 +70,7 @@ frmHTMLChild *OpenWindow() {
 
   QMdiArea &area = Area();
   area.addSubWindow(editor);
-  editor->resize(area.viewport()->size() * 3 / 4);
+  Cascade(*editor, area.viewport()->size());
   editor->show();
   const auto gone = [&editor] { return !editor || editor->IsUnloaded(); };
   if (gone()) return nullptr;

@@ -1,5 +1,6 @@
 #include "frame/mdiMain.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QFontDatabase>
@@ -25,7 +26,9 @@ const QString caption =
 const QString fileFilter = QStringLiteral(
     "*.html|*.html|*.htm|*.htm|*.html and *.htm|*.html;*.htm|*.java|*.java|All files *.*|*.*");
 constexpr int untilStencilsLoad = 4000;  // milliseconds
+constexpr int untilMenuCloses = 200;     // milliseconds between two looks
 constexpr QSize firstSize(1280, 800);
+constexpr QSize windowFrame(16, 48);  // room for what the window manager puts round it
 constexpr int panelWidth = 250;
 
 QString commandLine;
@@ -51,10 +54,7 @@ mdiMain::mdiMain() {
   timloadStencils = new QTimer(this);
   timloadStencils->setObjectName(QStringLiteral("timloadStencils"));
   timloadStencils->setInterval(untilStencilsLoad);
-  connect(timloadStencils, &QTimer::timeout, this, [this] {
-    timloadStencils->stop();
-    LoadStencilTrees(true, true);
-  });
+  connect(timloadStencils, &QTimer::timeout, this, &mdiMain::timloadStencils_Timer);
   // The window that comes to the front after a close is the one used before it.
   mdiArea->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   connect(mdiArea, &QMdiArea::subWindowActivated, this, &mEditors::WindowActivated);
@@ -106,7 +106,7 @@ void mdiMain::ConnectMenus() {
 
 void mdiMain::Load() {
   const QRect available = screen()->availableGeometry();
-  resize(firstSize.boundedTo(available.size()));
+  resize(firstSize.boundedTo(available.size() - windowFrame));
   splClient->setStretchFactor(0, 1);
   splClient->setSizes({width() - panelWidth, panelWidth});
   move(available.center() - rect().center());
@@ -124,6 +124,16 @@ void mdiMain::Load() {
   mPublic::aFormatColor.fill(128);
   ApplyPreferences();
   timloadStencils->start();
+}
+
+void mdiMain::timloadStencils_Timer() {
+  // A window that is shown closes an open menu under the user's hand and leaves the keyboard there.
+  if (QApplication::activePopupWidget()) {
+    timloadStencils->start(untilMenuCloses);
+    return;
+  }
+  timloadStencils->stop();
+  LoadStencilTrees(true, true);
 }
 
 // Editor windows need the area's size, which the window has from its first show on, before it is

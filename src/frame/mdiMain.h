@@ -54,6 +54,7 @@ class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   void ConnectMenus();
   void AddTreeRoots();
   void DrawStrips();
+  void timloadStencils_Timer();
   void mnuFileQuit_Click();
 };
 

@@ -3,15 +3,17 @@
 #include <QPainter>
 
 #include "frame/mdiMain.h"
-#include "toolkit/WindowOnTop.h"
 
 frmDatabaseIsLoading::frmDatabaseIsLoading() : DialogForm(Default<mdiMain>()) {
   setupUi(this);
   setWindowFlag(Qt::FramelessWindowHint);
+  // It comes by itself while the user works: it must neither close an open menu nor take a key.
+  setWindowFlag(Qt::WindowDoesNotAcceptFocus);
+  setAttribute(Qt::WA_ShowWithoutActivating);
 }
 
 void frmDatabaseIsLoading::Load() {
-  SetWindowOnTop(*this, true);
+  raise();
 }
 
 // A raised border.

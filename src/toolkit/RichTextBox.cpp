@@ -30,6 +30,16 @@ void RichTextBox::SetForeignReplacement(ForeignText::Replacement replacement) {
   foreignReplacement_ = std::move(replacement);
 }
 
+void RichTextBox::SetTabWidth(int blanks) {
+  tabWidth_ = blanks;
+  setTabStopDistance(fontMetrics().horizontalAdvance(u' ') * blanks);
+}
+
+void RichTextBox::changeEvent(QEvent *event) {
+  QPlainTextEdit::changeEvent(event);
+  if (event->type() == QEvent::FontChange) SetTabWidth(tabWidth_);
+}
+
 // ---- text and positions
 
 QString RichTextBox::Text() const {

@@ -20,6 +20,9 @@ class RichTextBox : public QPlainTextEdit {
   /// How characters that the code page lacks are written; at first as numeric references.
   void SetForeignReplacement(ForeignText::Replacement replacement);
 
+  /// How many blanks wide a tab character is shown; at first 8.
+  void SetTabWidth(int blanks);
+
   /// No-break spaces stay what they are, unlike in toPlainText.
   QString Text() const;
 
@@ -56,6 +59,7 @@ class RichTextBox : public QPlainTextEdit {
   bool SaveFile(const QString &path) const;
 
  protected:
+  void changeEvent(QEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void inputMethodEvent(QInputMethodEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
@@ -70,5 +74,6 @@ class RichTextBox : public QPlainTextEdit {
   bool Fits(const QTextCursor &target, const QString &text) const;
   bool KeyJoinsTooMuch(const QKeyEvent &event) const;
 
+  int tabWidth_ = 8;
   ForeignText::Replacement foreignReplacement_ = ForeignText::NumericReference;
 };

@@ -115,11 +115,17 @@ TEST_F(StartTest, TheCommandLinesFileIsOpenedIfThereIsOne) {
   mEditors::Active()->close();
 }
 
-TEST_F(StartTest, TheStencilTimerFiresOnceAndLeavesNoWaitWindow) {
+TEST_F(StartTest, TheStencilTimerFiresOnceButNotIntoAnOpenMenu) {
   SetSplash(false);
   Default<frmStart>();
-  QTimer *timer = Default<mdiMain>()->timloadStencils;
+  auto *main = Default<mdiMain>();
+  QTimer *timer = main->timloadStencils;
   EXPECT_EQ(timer->interval(), 4000);
+  main->mnuFile->popup(QPoint(20, 20));
+  ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
+  EXPECT_TRUE(main->mnuFile->isVisible());
+  EXPECT_TRUE(timer->isActive());
+  main->mnuFile->close();
   ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
   EXPECT_FALSE(timer->isActive());
   EXPECT_EQ(mForms::Find(QStringLiteral("frmDatabaseIsLoading")), nullptr);
