@@ -89,9 +89,15 @@ void BringToTop(frmHTMLChild &editor) {
 }
 
 void TakeFromArea(frmHTMLChild &editor) {
+  QMdiArea *area = editor.mdiArea();
+  if (!area) return;
+  const bool maximized = editor.isMaximized();
   takingAway = true;
-  if (QMdiArea *area = editor.mdiArea()) area->removeSubWindow(&editor);
+  area->removeSubWindow(&editor);
   takingAway = false;
+  // Who works with maximised windows goes on with the next one maximised.
+  QMdiSubWindow *next = area->currentSubWindow();
+  if (maximized && next && !mPublic::bAppClosing) next->showMaximized();
 }
 
 void WindowActivated(QMdiSubWindow *window) {
