@@ -10,6 +10,7 @@
 #include "documents/OpenFilesTree.h"
 #include "documents/mEditors.h"
 #include "frame/mdiMain.h"
+#include "toolkit/WindowOnTop.h"
 #include "toolkit/twips.h"
 
 namespace {
@@ -31,8 +32,7 @@ frmNewEditorWindow::frmNewEditorWindow() : DialogForm(Default<mdiMain>()) {
 }
 
 void frmNewEditorWindow::Load() {
-  raise();
-  activateWindow();
+  SetWindowOnTop(*this, true);
   shpSelectionBorder->lower();
   Choose(0);
 }

@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "frame/mdiMain.h"
+#include "toolkit/WindowOnTop.h"
 
 frmDatabaseIsLoading::frmDatabaseIsLoading() : DialogForm(Default<mdiMain>()) {
   setupUi(this);
@@ -13,7 +14,7 @@ frmDatabaseIsLoading::frmDatabaseIsLoading() : DialogForm(Default<mdiMain>()) {
 }
 
 void frmDatabaseIsLoading::Load() {
-  raise();
+  SetWindowOnTop(*this, true);
 }
 
 // A raised border.

@@ -5,5 +5,5 @@
 void SetWindowOnTop(QWidget &window, bool onTop) {
   if (!onTop) return;
   window.raise();
-  window.activateWindow();
+  if (!window.testAttribute(Qt::WA_ShowWithoutActivating)) window.activateWindow();
 }
