@@ -92,7 +92,7 @@ TEST(DocumentTextTest, NamesAreComparedExactly) {
   EXPECT_FALSE(DocumentName::IsUnsaved(QStringLiteral("<Unsaved>")));
   EXPECT_TRUE(DocumentName::IsJava(QStringLiteral("/a.java ")));
   EXPECT_FALSE(DocumentName::IsJava(QStringLiteral("/a.JAVA")));
-  EXPECT_EQ(LineNumberText(9, 3), QStringLiteral("9:\n10:\n11:\n"));
+  EXPECT_EQ(LineNumberText(9, 2), QStringLiteral("9:\n10:\n"));
 }
 
 }  // namespace

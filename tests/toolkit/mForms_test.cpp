@@ -57,7 +57,6 @@ TEST(mFormsTest, ADefaultInstanceLivesUntilItAgreesToGo) {
   EXPECT_NE(Default<frmSample>(), form) << "the next use makes a new one";
   DoEvents();
   EXPECT_TRUE(form) << "a handler that pumps may still be on the stack";
-  QCoreApplication::processEvents();
   QTRY_VERIFY(!form);
   mForms::UnloadDefaults({"frmSample"});
 }
