@@ -1,5 +1,6 @@
 #include "documents/OpenFilesTree.h"
 
+#include <QEvent>
 #include <QPointer>
 
 #include "base/mText.h"
@@ -76,8 +77,14 @@ void RebuildOpenFilesTree() {
 }
 
 OpenFilesTreeHandlers::OpenFilesTreeHandlers(KeyedTree *tree) : QObject(tree), tree_(tree) {
-  connect(tree, &QTreeWidget::itemClicked, this, &OpenFilesTreeHandlers::Click);
+  // Not the signal of a clicked node: the arrow that opens and closes one gives none.
+  tree->viewport()->installEventFilter(this);
   connect(tree, &QTreeWidget::itemDoubleClicked, this, &OpenFilesTreeHandlers::DblClick);
+}
+
+bool OpenFilesTreeHandlers::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() == QEvent::MouseButtonRelease) Click();
+  return QObject::eventFilter(watched, event);
 }
 
 void OpenFilesTreeHandlers::Click() {

@@ -16,6 +16,9 @@ class OpenFilesTreeHandlers : public QObject {
  public:
   explicit OpenFilesTreeHandlers(KeyedTree *tree);
 
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
  private:
   void Click();
   void DblClick();

@@ -61,6 +61,20 @@ TEST_F(OpenFilesTreeTest, ADoubleClickBringsTheLowestSlotOfThatNameForward) {
   EXPECT_EQ(doubleClick(1), mEditors::aEditorWindow[2].data());
 }
 
+TEST_F(OpenFilesTreeTest, AClickShowsWhetherTheRootIsOpen) {
+  Open(QStringLiteral("a.html"), "a");
+  KeyedTree *tree = main->trwOpenFiles;
+  const auto look = [tree] { return tree->Node(1)->icon(0).pixmap(16).toImage(); };
+  const QImage open = look();
+  const QRect root = tree->visualItemRect(tree->Node(1));
+  const QPoint arrow(root.left() / 2, root.center().y());
+  QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, arrow);
+  EXPECT_FALSE(tree->Node(1)->isExpanded());
+  EXPECT_NE(look(), open);
+  QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, arrow);
+  EXPECT_EQ(look(), open);
+}
+
 TEST_F(OpenFilesTreeTest, ARebuildDuringARebuildRunsOnceMoreAtItsEnd) {
   Open(QStringLiteral("a.html"), "a");
   frmHTMLChild *second = Open(QStringLiteral("b.html"), "b");
