@@ -11,18 +11,12 @@
 /// nothing for any other user.
 class WithoutSuperuser {
  public:
-  WithoutSuperuser() {
-    if (superuser_) {
-      EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
-    }
-  }
+  WithoutSuperuser() { EXPECT_EQ(superuser_ ? setresuid(nobody, nobody, 0) : 0, 0); }
   ~WithoutSuperuser() {
     if (!superuser_) return;
     EXPECT_EQ(setresuid(0, 0, 0), 0);
     prctl(PR_SET_DUMPABLE, 1);  // lost with the rights, and the leak checker needs it
   }
-  WithoutSuperuser(const WithoutSuperuser &) = delete;
-  WithoutSuperuser &operator=(const WithoutSuperuser &) = delete;
 
  private:
   static constexpr uid_t nobody = 65534;
@@ -33,19 +27,14 @@ class WithoutSuperuser {
 /// fails, as on a full disk.
 class FullDisk {
  public:
-  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+  explicit FullDisk(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
     EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &before_), 0);
     const rlimit limit{bytes, before_.rlim_max};
     EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
   }
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk &) = delete;
-  FullDisk &operator=(const FullDisk &) = delete;
+  ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
 
  private:
   rlimit before_{};
-  void (*handler_)(int);
 };

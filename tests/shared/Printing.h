@@ -14,8 +14,3 @@ inline void PrintTo(const QString &text, std::ostream *out) {
 inline void PrintTo(const QByteArray &bytes, std::ostream *out) {
   *out << '"' << bytes.toPercentEncoding(" !\"#$&'()*+,/:;<=>?@[]^{|}").toStdString() << '"';
 }
-
-inline std::ostream &operator<<(std::ostream &out, const QString &text) {
-  PrintTo(text, &out);
-  return out;
-}
