@@ -1,15 +1,16 @@
 #include "documents/frmHTMLChild.h"
 
 #include <QCoreApplication>
-#include <QInputMethodEvent>
 #include <QMdiArea>
 #include <QPointer>
 #include <QShortcut>
+#include <QTextCursor>
 
 #include "base/WholeFile.h"
 #include "base/mText.h"
 #include "documents/DocumentName.h"
 #include "documents/DocumentText.h"
+#include "documents/EditorEvents.h"
 #include "documents/LineNumbers.h"
 #include "documents/OpenFilesTree.h"
 #include "documents/SaveQuestion.h"
@@ -19,9 +20,8 @@
 
 namespace {
 
-constexpr int lineNumbers = 200;
-
-// The two boxes stand three pixels apart in height; these margins put their lines level.
+// Pixels round the text. The two boxes stand three pixels apart in height; these put their lines
+// level.
 constexpr int textMargin = 4;
 constexpr int lineNumberMargin = 1;
 
@@ -37,7 +37,7 @@ void SetUpBox(RichTextBox &box, const char *name, int margin) {
   box.setObjectName(QLatin1String(name));
   box.setFont(QFont(QStringLiteral("Courier New"), 10));
   box.setFrameShape(QFrame::NoFrame);
-  box.document()->setDocumentMargin(margin);
+  box.SetMargin(margin, margin);
   box.setPalette(Paper());
 }
 
@@ -70,12 +70,13 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   client_->setFocusProxy(txthtml);
   client_->setMouseTracking(true);
   client_->installEventFilter(this);
-  txthtml->installEventFilter(this);
+  new EditorEvents(this);
   rtfLineNumber->viewport()->installEventFilter(this);
   // Beside the key that the toolkit's own window menu has for it.
   auto *closeKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
   closeKey->setContext(Qt::WidgetWithChildrenShortcut);
   connect(closeKey, &QShortcut::activated, this, &QWidget::close);
+  connect(txthtml, &RichTextBox::Edited, this, &frmHTMLChild::FollowLandmarks);
   connect(txthtml, &RichTextBox::textChanged, this, &mEditors::TakeActiveFromFront);
 }
 
@@ -106,7 +107,7 @@ void frmHTMLChild::PlaceBoxes() {
   rtfLineNumber->setGeometry(-1, 2, 54, mEditors::Area().height() - 16);
   DoEvents();
   if (gone()) return;
-  rtfLineNumber->setPlainText(LineNumberText(1, lineNumbers));
+  rtfLineNumber->setPlainText(LineNumberText(1, AllLineNumbers));
   txthtml->setGeometry(55, -1, client_->width() - rtfLineNumber->width(), client_->height() + 1);
   DoEvents();
 }
@@ -153,8 +154,18 @@ void frmHTMLChild::ResizeOnce() {
   if (!pumped()) return;
   rtfLineNumber->resize(54, client_->height() - 16);
   if (!pumped()) return;
-  rtfLineNumber->setPlainText(LineNumberText(1, lineNumbers));
-  pumped();
+  rtfLineNumber->setPlainText(LineNumberText(1, AllLineNumbers));
+  if (!pumped()) return;
+  // The numbers begin at 1 now, which is wrong for a text that is scrolled.
+  firstNumberedLine = 0;
+  SyncLineNumbers(AllLineNumbers);
+}
+
+void frmHTMLChild::SyncLineNumbers(int count) {
+  const int first = txthtml->FirstVisibleLine();
+  if (first == firstNumberedLine) return;
+  firstNumberedLine = first;
+  rtfLineNumber->setPlainText(LineNumberText(first + 1, count));
 }
 
 void frmHTMLChild::RepairLayout() {
@@ -166,15 +177,6 @@ void frmHTMLChild::RepairLayout() {
 // ---- events
 
 bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
-  if (watched == txthtml) {
-    if (event->type() == QEvent::KeyPress) MarkAsTyped();
-    // Letters composed by an input method come without a key.
-    if (event->type() == QEvent::InputMethod &&
-        !static_cast<QInputMethodEvent *>(event)->commitString().isEmpty()) {
-      MarkAsTyped();
-    }
-    return false;
-  }
   if (watched == rtfLineNumber->viewport()) {
     if (event->type() != QEvent::Wheel) return false;
     QCoreApplication::sendEvent(txthtml->viewport(), event);
@@ -188,11 +190,15 @@ bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
   return FormOf::eventFilter(watched, event);
 }
 
-// Every key counts as a change, also one that only moves the caret.
-void frmHTMLChild::MarkAsTyped() {
-  if (Slot() <= 0 || IsUnloaded()) return;
-  mPublic::aEditorState[Slot()].changed = true;
-  mPublic::iActualEditor = Slot();
+void frmHTMLChild::FollowLandmarks(int position, int removed, int added) {
+  QTextDocument *document = txthtml->document();
+  landmarks.Edited(position, removed, added, document->characterCount() - 1,
+                   [document](int start, int length) {
+                     QTextCursor piece(document);
+                     piece.setPosition(start);
+                     piece.setPosition(start + length, QTextCursor::KeepAnchor);
+                     return piece.selectedText();
+                   });
 }
 
 // ---- closing

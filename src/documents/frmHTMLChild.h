@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QString>
 
+#include "documents/Landmarks.h"
 #include "toolkit/RichTextBox.h"
 #include "toolkit/mForms.h"
 
@@ -29,6 +30,13 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
   /// The zero-based first visible line that the line numbers were last built for.
   int firstNumberedLine = 0;
 
+  /// The zero-based line that the caret stood on at the end of the last colouring pass or when the
+  /// mouse was last released.
+  int lineOfLastPass = 0;
+
+  /// Where head and body of the page begin and end, in positions of the document.
+  Landmarks landmarks;
+
   /// The slot that the tag names, 0 for a window without one.
   int Slot() const;
 
@@ -38,6 +46,12 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
 
   /// The first layout of a new window. Pumps events: the window may be gone afterwards.
   void PlaceBoxes();
+
+  static constexpr int AllLineNumbers = 200;
+
+  /// Builds so many line numbers anew if the first visible line is another than the one that they
+  /// were last built for.
+  void SyncLineNumbers(int count);
 
   /// Makes this the active document, as when the user turns to its window.
   void GotFocus();
@@ -49,7 +63,7 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
   void Resize();
   void ResizeOnce();
   void RepairLayout();
-  void MarkAsTyped();
+  void FollowLandmarks(int position, int removed, int added);
 
   QString caption_;
   QWidget *client_;

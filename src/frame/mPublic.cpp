@@ -11,6 +11,7 @@ int iActualEditor = 0;
 bool bAppClosing = false;
 Preferences recPreferences{};
 std::array<qint16, 4> aFormatColor{};
+std::array<quint8, 4> TagHighlight{};
 QString strAppTitle;
 
 namespace {
@@ -23,6 +24,10 @@ void ReadPreferences() {
 
 bool WritePreferences() {
   return WritePreferencesFile(mFolders::InProgramFolder(preferencesName), recPreferences);
+}
+
+bool AnyTagHighlight() {
+  return std::count(TagHighlight.begin() + 1, TagHighlight.end(), 1) > 0;
 }
 
 bool AnyEditorOpen() {

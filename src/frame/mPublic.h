@@ -34,6 +34,12 @@ extern Preferences recPreferences;
 /// Red, green, blue and grey level of the tag colours.
 extern std::array<qint16, 4> aFormatColor;
 
+/// Which tags are coloured: 1 borders, 2 header, 3 body; 1 is on, 0 is off. Index 0 isn't used.
+extern std::array<quint8, 4> TagHighlight;
+
+/// Whether any of the three is on.
+bool AnyTagHighlight();
+
 /// Shown by the about box.
 extern QString strAppTitle;
 

@@ -10,11 +10,13 @@
 
 #include "base/mFolders.h"
 #include "base/mText.h"
+#include "documents/EditCommands.h"
 #include "documents/FileCommands.h"
 #include "documents/OpenFilesTree.h"
+#include "documents/frmSearch.h"
 #include "documents/mEditors.h"
 #include "frame/ApplyPreferences.h"
-#include "frame/PixelFile.h"
+#include "frame/FocusRound.h"
 #include "frame/mPublic.h"
 #include "stencils/LoadStencilTrees.h"
 #include "toolkit/DoEvents.h"
@@ -49,7 +51,10 @@ mdiMain::mdiMain() {
   setupUi(this);
   setCentralWidget(splClient);
   FillBars();
+  SetUpPanel();
   ConnectMenus();
+  ConnectStrips();
+  SetUpFocusRound();
   cdgFileOpen.Filter = cdgFileSave.Filter = fileFilter;
   timloadStencils = new QTimer(this);
   timloadStencils->setObjectName(QStringLiteral("timloadStencils"));
@@ -59,40 +64,6 @@ mdiMain::mdiMain() {
   mdiArea->setActivationOrder(QMdiArea::ActivationHistoryOrder);
   connect(mdiArea, &QMdiArea::subWindowActivated, this, &mEditors::WindowActivated);
   new OpenFilesTreeHandlers(trwOpenFiles);
-  trwOpenFiles->installEventFilter(this);
-}
-
-void mdiMain::FillBars() {
-  const auto strip = [this](const char *name, Qt::Orientation direction, int buttons) {
-    auto *made = new ToolStrip(direction, buttons, this);
-    made->setObjectName(QLatin1String(name));
-    return made;
-  };
-  picColor = new QFrame(this);
-  picColor->setObjectName(QStringLiteral("picColor"));
-  picColor->setFrameShape(QFrame::Panel);
-  picColor->setFrameShadow(QFrame::Sunken);
-  picColor->setFixedSize(ToolStrip::Cell, ToolStrip::Cell);
-  picColor->setAutoFillBackground(true);
-  picColor->setPalette(QPalette(Qt::black));
-  cboFontStyle = new QComboBox(this);
-  cboFontStyle->setObjectName(QStringLiteral("cboFontStyle"));
-  cboFontStyle->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  cboFontStyle->setMinimumContentsLength(16);
-  cboFontsize = new QComboBox(this);
-  cboFontsize->setObjectName(QStringLiteral("cboFontsize"));
-  cbrTop->addWidget(picColor);
-  cbrTop->addWidget(picButtons = strip("picButtons", Qt::Horizontal, 17));
-  cbrTop->addSeparator();
-  cbrTop->addWidget(cboFontStyle);
-  cbrTop->addWidget(cboFontsize);
-  cbrTop->addSeparator();
-  cbrTop->addWidget(picHtmlTextOptions = strip("picHtmlTextOptions", Qt::Horizontal, 9));
-  cbrTop->addWidget(picLeftArrow = strip("picLeftArrow", Qt::Horizontal, 1));
-  barLeft->addWidget(picLeft = strip("picLeft", Qt::Vertical, 10));
-  cbrLeft->addWidget(picJava = strip("picJava", Qt::Vertical, 2));
-  cbrLeft->addWidget(picRight = strip("picRight", Qt::Vertical, 5));
-  barBottom->addWidget(picBottom = strip("picBottom", Qt::Horizontal, 2));
 }
 
 void mdiMain::ConnectMenus() {
@@ -102,6 +73,22 @@ void mdiMain::ConnectMenus() {
   connect(mnuFileSaveAs, &QAction::triggered, this, &FileCommands::SaveAs);
   connect(mnuFileSaveAll, &QAction::triggered, this, &FileCommands::SaveAll);
   connect(mnuFileQuit, &QAction::triggered, this, &mdiMain::mnuFileQuit_Click);
+  connect(mnuEditCut, &QAction::triggered, this, &EditCommands::Cut);
+  connect(mnuEditCopy, &QAction::triggered, this, &EditCommands::Copy);
+  connect(mnuEditPaste, &QAction::triggered, this, &EditCommands::Paste);
+  connect(mnuEditClearClipboard, &QAction::triggered, this, &EditCommands::ClearClipboard);
+  connect(mnuEditSearch, &QAction::triggered, this, [] { Default<frmSearch>()->show(); });
+}
+
+void mdiMain::SetUpFocusRound() {
+  const auto stop = [](QWidget *widget) { return [widget] { return widget; }; };
+  new FocusRound(this, {[]() -> QWidget * {
+                          frmHTMLChild *editor = mEditors::Active();
+                          return editor ? editor->txthtml : nullptr;
+                        },
+                        stop(picButtons), stop(picHtmlTextOptions), stop(picLeft), stop(picJava),
+                        stop(picRight), stop(picBottom), stop(trwStencils),
+                        stop(trwSelfBuildedStencils), stop(trwOpenFiles), stop(picTagDescription)});
 }
 
 void mdiMain::Load() {
@@ -159,55 +146,6 @@ void mdiMain::AddTreeRoots() {
   };
   stencilRoot(*trwStencils, QStringLiteral("Standard Stencils - html 4.01"));
   stencilRoot(*trwSelfBuildedStencils, QStringLiteral("Self Builded Stencils"));
-}
-
-void mdiMain::DrawStrips() {
-  struct Artwork {
-    const char *file;
-    ToolStrip *strip;
-    bool pumpInside;
-  };
-  const Artwork artworks[] = {
-      {"File0001.dat", picButtons, false},
-      {"File0002.dat", picLeft, false},
-      {"File0003.dat", picBottom, false},
-      {"File0004.dat", picRight, false},
-      {"File0005.dat", picHtmlTextOptions, false},
-      {"File0007.dat", picLeftArrow, true},
-      {"File0009.dat", picJava, true},
-  };
-  for (const Artwork &artwork : artworks) {
-    ForEachPixel(mFolders::InProgramFolder(QLatin1String(artwork.file)),
-                 [&artwork](const PixelRecord &pixel) {
-                   artwork.strip->PSet(pixel.x, pixel.y, pixel.colour);
-                   if (artwork.pumpInside) DoEventsInLoop();
-                 });
-    DoEvents();
-  }
-}
-
-void mdiMain::SetTitlebarColor(int title) {
-  const auto paint = [this](QLabel &label, QPalette::ColorGroup group) {
-    QPalette colours = palette();
-    const bool active = group == QPalette::Active;
-    colours.setColor(QPalette::Window,
-                     colours.color(group, active ? QPalette::Highlight : QPalette::Mid));
-    colours.setColor(QPalette::WindowText, colours.color(group, active ? QPalette::HighlightedText
-                                                                       : QPalette::WindowText));
-    label.setPalette(colours);
-  };
-  const std::pair<int, QLabel *> labels[] = {{1, lblWindowTitelOpenFiles},
-                                             {2, lblWindowTitelStencilWindow},
-                                             {4, lblWindowTitelTagDescription}};
-  for (const auto &[number, label] : labels) {
-    paint(*label, number == title ? QPalette::Active : QPalette::Inactive);
-  }
-}
-
-bool mdiMain::eventFilter(QObject *watched, QEvent *event) {
-  if (watched == trwOpenFiles && event->type() == QEvent::FocusIn) SetTitlebarColor(1);
-  if (watched == trwOpenFiles && event->type() == QEvent::FocusOut) SetTitlebarColor(0);
-  return FormOf::eventFilter(watched, event);
 }
 
 void mdiMain::dragEnterEvent(QDragEnterEvent *event) {

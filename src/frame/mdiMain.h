@@ -3,8 +3,11 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QMainWindow>
+#include <QPushButton>
 #include <QTimer>
+#include <QToolButton>
 #include <QVector>
+#include <array>
 
 #include "toolkit/CommonDialog.h"
 #include "toolkit/ToolStrip.h"
@@ -28,6 +31,8 @@ class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   QComboBox *cboFontStyle;
   QComboBox *cboFontsize;
   QFrame *picColor;
+  QToolButton *picFontColor;
+  QPushButton *cmdTagDescriptionLarge;
   QTimer *timloadStencils;
   CommonDialog cdgFileOpen;
   CommonDialog cdgFileSave;
@@ -41,7 +46,7 @@ class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   void Unloaded() override;
 
   /// Marks one of the panel's titles as active: 1 open files, 2 stencils, 4 description, else none.
-  void SetTitlebarColor(int title);
+  void SetTitlebarColor(int value);
 
  protected:
   void showEvent(QShowEvent *event) override;
@@ -50,12 +55,29 @@ class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   void dropEvent(QDropEvent *event) override;
 
  private:
+  struct PanelTitle {
+    int value;
+    QLabel *label;
+    QObjectList contents;
+  };
+
   void FillBars();
   void ConnectMenus();
+  void ConnectStrips();
+  void SetUpPanel();
+  void SetUpFocusRound();
   void AddTreeRoots();
   void DrawStrips();
+  void SetPanelWidth(int width);
+  void ShowPanel(bool show);
+  void PlaceLargeButton();
+  void cmdSizing_Click(int index);
   void timloadStencils_Timer();
   void mnuFileQuit_Click();
+
+  std::array<QToolButton *, 3> cmdSizing_;
+  std::array<PanelTitle, 3> titles_;
+  int shownPanelWidth_ = 0;  ///< pixels, while the panel is hidden
 };
 
 /// What the process was started with: all of its command line behind the program, one file name.

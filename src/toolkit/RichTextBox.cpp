@@ -3,12 +3,14 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <algorithm>
 
 #include "base/TextFile.h"
 #include "base/WholeFile.h"
 #include "base/mAnsi.h"
+#include "base/mText.h"
 
 namespace {
 
@@ -20,10 +22,13 @@ QString WithLineEnds(QString text) {
 
 }  // namespace
 
-RichTextBox::RichTextBox(QWidget *parent) : QPlainTextEdit(parent) {
+RichTextBox::RichTextBox(QWidget *parent) : QPlainTextEdit(parent), colours_(document()) {
   setLineWrapMode(NoWrap);
   setAcceptDrops(false);
   setContextMenuPolicy(Qt::NoContextMenu);
+  document()->setDocumentMargin(0);
+  connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::Follow);
+  connect(this, &QPlainTextEdit::textChanged, this, &RichTextBox::ClearHit);
 }
 
 void RichTextBox::SetForeignReplacement(ForeignText::Replacement replacement) {
@@ -33,6 +38,10 @@ void RichTextBox::SetForeignReplacement(ForeignText::Replacement replacement) {
 void RichTextBox::SetTabWidth(int blanks) {
   tabWidth_ = blanks;
   setTabStopDistance(fontMetrics().horizontalAdvance(u' ') * blanks);
+}
+
+void RichTextBox::SetMargin(int left, int top) {
+  setViewportMargins(left, top, 0, 0);
 }
 
 void RichTextBox::changeEvent(QEvent *event) {
@@ -131,12 +140,111 @@ qsizetype RichTextBox::LineLength(qsizetype position) const {
   return document()->findBlock(DocumentPosition(position)).length() - 1;
 }
 
+QString RichTextBox::Piece(qsizetype start, qsizetype length) const {
+  // Read with a character more at both ends, since a line end is one character of the document.
+  QTextCursor cursor(document());
+  const int from = DocumentPosition(std::max<qsizetype>(start - 1, 0));
+  cursor.setPosition(from);
+  cursor.setPosition(DocumentPosition(start + length + 1), QTextCursor::KeepAnchor);
+  return mText::Mid(WithLineEnds(cursor.selectedText()), start - TextPosition(from) + 1, length);
+}
+
 int RichTextBox::CaretLine() const {
   return textCursor().blockNumber();
 }
 
 int RichTextBox::FirstVisibleLine() const {
   return firstVisibleBlock().blockNumber();
+}
+
+// ---- edits and colours
+
+// The document counts its own end among what was removed and added, and says nothing of the text
+// that setPlainText has taken away: then the lengths don't add up.
+void RichTextBox::Follow(int position, int removed, int added) {
+  const int before = length_;
+  length_ = document()->characterCount() - 1;
+  const int beyond = std::max(position + removed - before, 0);
+  removed -= beyond;
+  added -= beyond;
+  if (before - removed + added != length_ || removed < 0 || added < 0) {
+    position = 0;
+    removed = before;
+    added = length_;
+  }
+  colours_.Follow(position, removed, added);
+  Q_EMIT Edited(position, removed, added);
+}
+
+void RichTextBox::SetColour(qsizetype start, qsizetype length, ColourSpans::Colour colour) {
+  colours_.Set(DocumentPosition(start), DocumentPosition(start + length), colour);
+}
+
+void RichTextBox::ShowColours() {
+  colours_.Show();
+}
+
+void RichTextBox::SetSelColor(ColourSpans::Colour colour) {
+  const QTextCursor cursor = textCursor();
+  colours_.Set(cursor.selectionStart(), cursor.selectionEnd(), colour);
+  colours_.Show();
+}
+
+std::vector<ColourSpans::Span> RichTextBox::ColoursOfLine(int line) const {
+  const QTextBlock block = document()->findBlockByNumber(line);
+  auto spans = colours_.Within(block.position(), block.position() + block.length() - 1);
+  for (auto &span : spans) {
+    span.start -= block.position();
+    span.end -= block.position();
+  }
+  return spans;
+}
+
+// ---- finding
+
+qsizetype RichTextBox::Find(const QString &sought, qsizetype start, bool matchCase) {
+  ClearHit();
+  if (sought.isEmpty() || start > TextLength()) return -1;
+  const auto sensitivity = matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+  const int from = DocumentPosition(start);
+  QTextBlock block = document()->findBlock(from);
+  qsizetype column = from - block.position();
+  for (; block.isValid(); block = block.next(), column = 0) {
+    const qsizetype found = block.text().indexOf(sought, column, sensitivity);
+    if (found < 0) continue;
+    QTextEdit::ExtraSelection hit;
+    hit.cursor = QTextCursor(block);
+    hit.cursor.setPosition(block.position() + int(found));
+    hit.cursor.setPosition(block.position() + int(found + sought.size()), QTextCursor::KeepAnchor);
+    hit.format.setBackground(QColor(255, 213, 0));
+    hit.format.setForeground(Qt::black);
+    setExtraSelections({hit});
+    return TextPosition(hit.cursor.selectionStart());
+  }
+  return -1;
+}
+
+void RichTextBox::ClearHit() {
+  setExtraSelections({});
+}
+
+void RichTextBox::ShowHit() {
+  const auto marks = extraSelections();
+  if (marks.isEmpty()) return;
+  const QTextCursor &hit = marks.constFirst().cursor;
+  QTextCursor start = hit;
+  start.setPosition(hit.selectionStart());
+  QScrollBar &lines = *verticalScrollBar();
+  const int line = start.blockNumber();
+  if (line < lines.value() || line >= lines.value() + lines.pageStep()) {
+    lines.setValue(line - lines.pageStep() / 2);
+  }
+  const QRect shown = viewport()->rect();
+  const QRect place = cursorRect(start).united(cursorRect(hit));
+  QScrollBar &columns = *horizontalScrollBar();
+  if (place.left() < shown.left() || place.right() > shown.right()) {
+    columns.setValue(columns.value() + place.left() - shown.width() / 2);
+  }
 }
 
 // ---- files
@@ -189,6 +297,7 @@ bool RichTextBox::KeyJoinsTooMuch(const QKeyEvent &event) const {
 }
 
 void RichTextBox::keyPressEvent(QKeyEvent *event) {
+  ClearHit();
   if (KeyJoinsTooMuch(*event)) return;
   const QString text = event->text();
   const bool typed = !text.isEmpty() && (text.at(0).isPrint() || text.at(0).isHighSurrogate());
@@ -216,6 +325,7 @@ void RichTextBox::inputMethodEvent(QInputMethodEvent *event) {
 }
 
 void RichTextBox::mousePressEvent(QMouseEvent *event) {
+  ClearHit();
   // A press inside the selection would begin to drag it; without a selection it can't.
   if (event->button() == Qt::LeftButton && !(event->modifiers() & Qt::ShiftModifier)) {
     QTextCursor cursor = textCursor();

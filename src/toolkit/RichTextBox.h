@@ -3,7 +3,9 @@
 #include <QPlainTextEdit>
 #include <QString>
 
+#include "base/ColourSpans.h"
 #include "base/ForeignText.h"
+#include "toolkit/DocumentColours.h"
 
 /// The text box of the editor windows.
 ///
@@ -22,6 +24,10 @@ class RichTextBox : public QPlainTextEdit {
 
   /// How many blanks wide a tab character is shown; at first 8.
   void SetTabWidth(int blanks);
+
+  /// Pixels between the box's edges and its text, above and on the left; they stay where they are
+  /// when the text is scrolled.
+  void SetMargin(int left, int top);
 
   /// No-break spaces stay what they are, unlike in toPlainText.
   QString Text() const;
@@ -45,9 +51,30 @@ class RichTextBox : public QPlainTextEdit {
   QString SelText() const;
   void SetSelText(const QString &text);
 
+  /// Colours a piece of the text, beside the undo history; black takes colour away. Seen after the
+  /// next ShowColours.
+  void SetColour(qsizetype start, qsizetype length, ColourSpans::Colour colour);
+  void ShowColours();
+
+  /// Colours the selection, at once.
+  void SetSelColor(ColourSpans::Colour colour);
+
+  /// The coloured spans of a line, in columns from 0.
+  std::vector<ColourSpans::Span> ColoursOfLine(int line) const;
+
+  /// Searches from a position on and marks the hit, unlike a selection, until the text changes, the
+  /// user presses a key or a mouse button in the box, or the mark is taken away. The selection
+  /// stays. Returns the hit's position, -1 if there is none or the sought text is empty.
+  qsizetype Find(const QString &sought, qsizetype start, bool matchCase);
+
+  /// Scrolls the mark of the last hit into view.
+  void ShowHit();
+  void ClearHit();
+
   int GetLineFromChar(qsizetype position) const;
   qsizetype LineIndex(int line) const;             ///< start of a line, -1 if there is no such line
   qsizetype LineLength(qsizetype position) const;  ///< of the line at the position, without its end
+  QString Piece(qsizetype start, qsizetype length) const;  ///< of Text, fewer where it ends
   int CaretLine() const;
   int FirstVisibleLine() const;
 
@@ -57,6 +84,11 @@ class RichTextBox : public QPlainTextEdit {
 
   /// Writes the text as it stands. False, with the old file whole, if that fails.
   bool SaveFile(const QString &path) const;
+
+ Q_SIGNALS:
+  /// The text has been edited: removed characters at the position gave way to added ones. A line
+  /// end is one character here, as in the document.
+  void Edited(int position, int removed, int added);
 
  protected:
   void changeEvent(QEvent *event) override;
@@ -68,12 +100,15 @@ class RichTextBox : public QPlainTextEdit {
   QMimeData *createMimeDataFromSelection() const override;
 
  private:
+  void Follow(int position, int removed, int added);
   int DocumentPosition(qsizetype position) const;
   qsizetype TextPosition(int documentPosition) const;
   QString Enterable(const QString &text) const;
   bool Fits(const QTextCursor &target, const QString &text) const;
   bool KeyJoinsTooMuch(const QKeyEvent &event) const;
 
+  DocumentColours colours_;
+  int length_ = 0;  ///< of the document before the edit that is being followed
   int tabWidth_ = 8;
   ForeignText::Replacement foreignReplacement_ = ForeignText::NumericReference;
 };
