@@ -94,7 +94,7 @@ void mdiMain::PlaceLargeButton() {
 void mdiMain::SetPanelWidth(int width) {
   const QList<int> sizes = splClient->sizes();
   const int both = sizes[0] + sizes[1];
-  const int beside = panRight->width() - picRightWindows->width();
+  const int beside = picResizeButtons->sizeHint().width();
   const int panel = qBound(picRightWindows->minimumWidth(), width, both - beside - smallestArea);
   splClient->setSizes({both - beside - panel, beside + panel});
 }
@@ -122,7 +122,7 @@ void mdiMain::cmdSizing_Click(int index) {
 void mdiMain::ShowPanel(bool show) {
   if (!show) shownPanelWidth_ = picRightWindows->width();
   picRightWindows->setVisible(show);
-  panRight->setMaximumWidth(show ? QWIDGETSIZE_MAX : picResizeButtons->width());
+  panRight->setMaximumWidth(show ? QWIDGETSIZE_MAX : picResizeButtons->sizeHint().width());
   if (show) SetPanelWidth(shownPanelWidth_);
   cmdSizing_[2]->setText(show ? QStringLiteral("5") : QStringLiteral("6"));
   cmdSizing_[2]->setIcon(Arrow(*cmdSizing_[2]));

@@ -27,6 +27,7 @@ RichTextBox::RichTextBox(QWidget *parent) : QPlainTextEdit(parent), colours_(doc
   setAcceptDrops(false);
   setContextMenuPolicy(Qt::NoContextMenu);
   document()->setDocumentMargin(0);
+  connect(horizontalScrollBar(), &QScrollBar::rangeChanged, this, &RichTextBox::MakeCaretRoom);
   connect(document(), &QTextDocument::contentsChange, this, &RichTextBox::Follow);
   connect(this, &QPlainTextEdit::textChanged, this, &RichTextBox::ClearHit);
 }
@@ -42,6 +43,13 @@ void RichTextBox::SetTabWidth(int blanks) {
 
 void RichTextBox::SetMargin(int left, int top) {
   setViewportMargins(left, top, 0, 0);
+}
+
+// The document ends with its longest line's last letter, and the caret stands behind that.
+void RichTextBox::MakeCaretRoom(int, int maximum) {
+  if (maximum == 0 || maximum == roomyMaximum_) return;
+  roomyMaximum_ = maximum + 2 * cursorWidth();
+  horizontalScrollBar()->setMaximum(roomyMaximum_);
 }
 
 void RichTextBox::changeEvent(QEvent *event) {
@@ -234,16 +242,17 @@ void RichTextBox::ShowHit() {
   const QTextCursor &hit = marks.constFirst().cursor;
   QTextCursor start = hit;
   start.setPosition(hit.selectionStart());
+  const auto place = [&] { return cursorRect(start).united(cursorRect(hit)); };
   QScrollBar &lines = *verticalScrollBar();
-  const int line = start.blockNumber();
-  if (line < lines.value() || line >= lines.value() + lines.pageStep()) {
-    lines.setValue(line - lines.pageStep() / 2);
-  }
-  const QRect shown = viewport()->rect();
-  const QRect place = cursorRect(start).united(cursorRect(hit));
   QScrollBar &columns = *horizontalScrollBar();
-  if (place.left() < shown.left() || place.right() > shown.right()) {
-    columns.setValue(columns.value() + place.left() - shown.width() / 2);
+  // A long line brings its scroll bar only when it is seen, and that takes height from the text.
+  for (int look = 0; look < 2; ++look) {
+    if (place().top() < 0 || place().bottom() >= viewport()->height()) {
+      lines.setValue(start.blockNumber() - lines.pageStep() / 2);
+    }
+    if (place().left() < 0 || place().right() >= viewport()->width()) {
+      columns.setValue(columns.value() + place().left() - viewport()->width() / 2);
+    }
   }
 }
 

@@ -100,6 +100,7 @@ class RichTextBox : public QPlainTextEdit {
   QMimeData *createMimeDataFromSelection() const override;
 
  private:
+  void MakeCaretRoom(int minimum, int maximum);
   void Follow(int position, int removed, int added);
   int DocumentPosition(qsizetype position) const;
   qsizetype TextPosition(int documentPosition) const;
@@ -108,7 +109,8 @@ class RichTextBox : public QPlainTextEdit {
   bool KeyJoinsTooMuch(const QKeyEvent &event) const;
 
   DocumentColours colours_;
-  int length_ = 0;  ///< of the document before the edit that is being followed
+  int roomyMaximum_ = 0;  ///< of the horizontal scroll bar, with room for the caret
+  int length_ = 0;        ///< of the document before the edit that is being followed
   int tabWidth_ = 8;
   ForeignText::Replacement foreignReplacement_ = ForeignText::NumericReference;
 };
