@@ -86,14 +86,7 @@ ProcessCost RunProcess(const QStringList &commandLine) {
           double(used.ru_maxrss) / 1024};
 }
 
-}  // namespace
-
-QStringList OwnRole(const QStringList &arguments) {
-  return QStringList{QCoreApplication::applicationFilePath()} + arguments;
-}
-
-void Compare(const QString &what, const QString &unit, double limit,
-             const std::function<double()> &ours, const std::function<double()> &bare) {
+Rounds RunRounds(const std::function<double()> &ours, const std::function<double()> &bare) {
   Rounds measured;
   for (int round = 0; round <= rounds; ++round) {
     const double our = ours();
@@ -102,7 +95,28 @@ void Compare(const QString &what, const QString &unit, double limit,
     measured.ours.push_back(our);
     measured.bare.push_back(bares);
   }
-  Print(what, unit, limit, measured, "ratio", Ratio);
+  return measured;
+}
+
+}  // namespace
+
+QStringList OwnRole(const QStringList &arguments) {
+  return QStringList{QCoreApplication::applicationFilePath()} + arguments;
+}
+
+void Compare(const QString &what, const QString &unit, double limit,
+             const std::function<double()> &ours, const std::function<double()> &bare) {
+  Print(what, unit, limit, RunRounds(ours, bare), "ratio", Ratio);
+}
+
+void CompareAbove(const QString &what, const QString &unit, double limit,
+                  const std::function<double()> &ours, const std::function<double()> &bare) {
+  Print(what, unit, limit, RunRounds(ours, bare), "above", Difference);
+}
+
+void Measure(const QString &what, const QString &unit, double limit,
+             const std::function<double()> &ours) {
+  CompareAbove(what, unit, limit, ours, [] { return 0.0; });
 }
 
 void CompareProcesses(const QString &what, const QStringList &ours, const QStringList &bare,

@@ -12,6 +12,14 @@ QStringList OwnRole(const QStringList &arguments);
 void Compare(const QString &what, const QString &unit, double limit,
              const std::function<double()> &ours, const std::function<double()> &bare);
 
+/// The same, but prints how much more ours is, in the unit, and takes that as the limit.
+void CompareAbove(const QString &what, const QString &unit, double limit,
+                  const std::function<double()> &ours, const std::function<double()> &bare);
+
+/// Prints the median of several rounds of what is measured by itself.
+void Measure(const QString &what, const QString &unit, double limit,
+             const std::function<double()> &ours);
+
 /// What is compared of two processes; what has no limit isn't printed.
 struct ProcessLimits {
   std::optional<double> wallRatio;
@@ -38,6 +46,8 @@ QString PageFile(qsizetype bytes);
 void BenchStart();
 void BenchOpening();
 void BenchTyping();
+void BenchColouring();
+void BenchMoves();
 void BenchTree();
 
 int PlayStart();

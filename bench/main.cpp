@@ -32,20 +32,25 @@ void PrepareProgramFolder(const QTemporaryDir &folder) {
 int main(int argc, char **argv) {
   QApplication application(argc, argv);
   const QStringList arguments = QCoreApplication::arguments();
-  if (arguments.size() == 2 && arguments[1] == QLatin1String("start")) return PlayStart();
+  if (arguments.size() == 2 && arguments[1] == QLatin1String("play-start")) return PlayStart();
   if (arguments.size() == 3 && arguments[1] == QLatin1String("open"))
     return PlayOpening(arguments[2]);
 
   const QTemporaryDir folder;
   PrepareProgramFolder(folder);
+  const auto wanted = [&arguments](const char *name) {
+    return arguments.size() < 2 || arguments.contains(QLatin1String(name));
+  };
   // The processes run one at a time, and before this one takes the instance lock.
-  BenchStart();
-  BenchOpening();
+  if (wanted("start")) BenchStart();
+  if (wanted("opening")) BenchOpening();
   if (!Default<frmStart>()->MayStart()) return 1;
   Default<mdiMain>()->timloadStencils->stop();
   DoEvents();
-  BenchTyping();
-  BenchTree();
+  if (wanted("typing")) BenchTyping();
+  if (wanted("colouring")) BenchColouring();
+  if (wanted("moves")) BenchMoves();
+  if (wanted("tree")) BenchTree();
   mForms::DestroyAll();
   return 0;
 }

@@ -34,7 +34,7 @@ int PlayOpening(const QString &file) {
 }
 
 void BenchStart() {
-  const QString role = QStringLiteral("start");
+  const QString role = QStringLiteral("play-start");
   CompareProcesses(QStringLiteral("start to main window drawn"), OwnRole({role}),
                    {QStringLiteral(BARE_PROGRAM), role},
                    {.wallRatio = {}, .peakRatio = {}, .cpuAbove = 40, .rounds = 15});

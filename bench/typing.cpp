@@ -1,13 +1,9 @@
-#include <QApplication>
-#include <QKeyEvent>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
 #include "Compare.h"
-#include "documents/FileCommands.h"
-#include "documents/mEditors.h"
+#include "Keys.h"
+#include "frame/mPublic.h"
 #include "toolkit/DoEvents.h"
 
 namespace {
@@ -17,23 +13,16 @@ constexpr qsizetype small = 100 << 10;
 constexpr int keys = 200;
 constexpr int positions = 2000;
 
-void PressKey(QWidget &box) {
-  QKeyEvent press(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
-  QKeyEvent release(QEvent::KeyRelease, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
-  QCoreApplication::sendEvent(&box, &press);
-  QCoreApplication::sendEvent(&box, &release);
-  DoEvents();
-}
-
-// Milliseconds a key, each drawn before the next, in the middle of the text.
+// Milliseconds a key, each drawn before the next, in a line of its own near the middle of the text.
 double Type(QPlainTextEdit &box) {
+  static int run = 0;
+  const int line = box.document()->blockCount() / 2 + ++run;
   QTextCursor cursor = box.textCursor();
-  cursor.setPosition(
-      box.document()->findBlockByNumber(box.document()->blockCount() / 2).position());
+  cursor.setPosition(box.document()->findBlockByNumber(line).position());
   box.setTextCursor(cursor);
   DoEvents();
   return Seconds([&box] {
-           for (int key = 0; key < keys; ++key) PressKey(box);
+           for (int key = 0; key < keys; ++key) PressKey(box, Qt::Key_X, QStringLiteral("x"));
          }) *
          1000 / keys;
 }
@@ -51,43 +40,32 @@ double MoveCaret(RichTextBox &box) {
   return sum > 0 ? seconds * 1e6 / positions : 0;
 }
 
-RichTextBox &Opened(qsizetype bytes) {
-  FileCommands::LoadFileIntoNewEditor(PageFile(bytes));
-  return *mEditors::Active()->txthtml;
-}
-
 }  // namespace
 
 void BenchTyping() {
-  RichTextBox &smallBox = Opened(small);
-  RichTextBox &largeBox = Opened(large);
-  auto *bare = new QPlainTextEdit;
-  bare->setLineWrapMode(QPlainTextEdit::NoWrap);
-  bare->setFont(largeBox.font());
-  bare->setPlainText(QString::fromLatin1(Page(large)));
-  QMdiSubWindow *bareWindow = mEditors::Area().addSubWindow(bare);
-  bareWindow->resize(mEditors::Active()->size());
-  bareWindow->show();
-  DoEvents();
-  const auto typeIn = [](QMdiSubWindow *window, QPlainTextEdit &box) {
-    mEditors::Area().setActiveSubWindow(window);
-    box.setFocus();
-    DoEvents();
+  RichTextBox &smallBox = OpenDocument(Page(small));
+  RichTextBox &largeBox = OpenDocument(Page(large));
+  QPlainTextEdit &bare = OpenBare(Page(large));
+  const auto typeIn = [](QPlainTextEdit &box) {
+    TurnTo(box);
     return Type(box);
-  };
-  const auto ours = [&typeIn](RichTextBox &box) {
-    auto *window = qobject_cast<QMdiSubWindow *>(box.parentWidget()->parentWidget());
-    return typeIn(window, box);
   };
   Compare(
       QStringLiteral("a key in 10 MB against the bare widget's"), QStringLiteral("ms"), 1.5,
-      [&] { return ours(largeBox); }, [&] { return typeIn(bareWindow, *bare); });
+      [&] { return typeIn(largeBox); }, [&] { return typeIn(bare); });
+  mPublic::TagHighlight = {0, 1, 1, 1};
+  Compare(
+      QStringLiteral("the same with all highlights on"), QStringLiteral("ms"), 1.5,
+      [&] { return typeIn(largeBox); }, [&] { return typeIn(bare); });
+  mPublic::TagHighlight = {};
   Compare(
       QStringLiteral("a key in 10 MB against one in 100 kB"), QStringLiteral("ms"), 1.5,
-      [&] { return ours(largeBox); }, [&] { return ours(smallBox); });
+      [&] { return typeIn(largeBox); }, [&] { return typeIn(smallBox); });
   // A hundred times the lines: two searches in trees of that many more levels, never a walk.
   Compare(
       QStringLiteral("position to caret and back, 10 MB against 100 kB"), QStringLiteral("us"), 3,
       [&] { return MoveCaret(largeBox); }, [&] { return MoveCaret(smallBox); });
-  delete bareWindow;
+  for (QPlainTextEdit *box : std::initializer_list<QPlainTextEdit *>{&smallBox, &largeBox, &bare}) {
+    Close(*box);
+  }
 }
