@@ -34,6 +34,7 @@ void frmSearch::cmdSearch_Click() {
   box.SetSelStart(selectAt);
   box.SetSelLength(sought.size() + 1);
   box.ShowHit();
+  editor->SyncLineNumbers(frmHTMLChild::AllLineNumbers);
   if (lastHit_ >= 1) return;
 
   const QPointer<frmSearch> self(this);

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <algorithm>
 
 #include "base/mText.h"
 #include "frame/mdiMain.h"
@@ -94,9 +95,11 @@ void mdiMain::PlaceLargeButton() {
 void mdiMain::SetPanelWidth(int width) {
   const QList<int> sizes = splClient->sizes();
   const int both = sizes[0] + sizes[1];
-  const int beside = picResizeButtons->sizeHint().width();
-  const int panel = qBound(picRightWindows->minimumWidth(), width, both - beside - smallestArea);
-  splClient->setSizes({both - beside - panel, beside + panel});
+  const int buttons = picResizeButtons->sizeHint().width();
+  const int most = std::max(both - buttons - smallestArea, picRightWindows->minimumWidth());
+  const int panel = std::clamp(width, picRightWindows->minimumWidth(), most);
+  const int right = picRightWindows->isHidden() ? buttons : buttons + panel;
+  splClient->setSizes({both - right, right});
 }
 
 void mdiMain::cmdSizing_Click(int index) {
@@ -123,7 +126,7 @@ void mdiMain::ShowPanel(bool show) {
   if (!show) shownPanelWidth_ = picRightWindows->width();
   picRightWindows->setVisible(show);
   panRight->setMaximumWidth(show ? QWIDGETSIZE_MAX : picResizeButtons->sizeHint().width());
-  if (show) SetPanelWidth(shownPanelWidth_);
+  SetPanelWidth(shownPanelWidth_);
   cmdSizing_[2]->setText(show ? QStringLiteral("5") : QStringLiteral("6"));
   cmdSizing_[2]->setIcon(Arrow(*cmdSizing_[2]));
   const QString what = show ? QStringLiteral("Hide the panel") : QStringLiteral("Show the panel");

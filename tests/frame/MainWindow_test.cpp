@@ -46,8 +46,10 @@ TEST_F(MainWindowTest, SizingButtonsWidenNarrowAndHideThePanel) {
   EXPECT_EQ(panel->width(), width + twips(1000));
   main->cmdSizing_1->click();
   EXPECT_EQ(panel->width(), width);
+  const int area = main->mdiArea->width();
   main->cmdSizing_2->click();
   EXPECT_FALSE(panel->isVisible());
+  EXPECT_EQ(main->mdiArea->width(), area + width) << "the documents get the panel's room";
   EXPECT_FALSE(main->cmdSizing_0->isEnabled() || main->cmdSizing_1->isEnabled());
   EXPECT_EQ(main->cmdSizing_2->text(), QStringLiteral("6"));
   EXPECT_TRUE(main->rect().contains(
