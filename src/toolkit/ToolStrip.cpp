@@ -10,8 +10,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/ToolStripAccessible.h"
-
 namespace {
 
 const QColor light(255, 255, 255);
@@ -33,7 +31,7 @@ void DrawFrame(QPainter &painter, const QRect &cell, const QColor &topLeft,
 
 ToolStrip::ToolStrip(Qt::Orientation direction, const QStringList &toolTips, QWidget *parent)
     : QWidget(parent), direction_(direction), toolTips_(toolTips) {
-  const int cells = std::max(ButtonCount(), 1);
+  const int cells = std::max(CellCount(), 1);
   artwork_ =
       QImage(direction == Qt::Horizontal ? QSize(cells * Cell, Cell) : QSize(Cell, cells * Cell),
              QImage::Format_ARGB32_Premultiplied);
@@ -42,7 +40,7 @@ ToolStrip::ToolStrip(Qt::Orientation direction, const QStringList &toolTips, QWi
   if (toolTips.isEmpty()) return;
   setMouseTracking(true);
   setFocusPolicy(Qt::TabFocus);
-  ToolStripAccessible::Install();
+  InstallAccessible();
 }
 
 QRect ToolStrip::CellRect(int button) const {
@@ -163,7 +161,7 @@ void ToolStrip::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_Home:
       return MoveTo(1);
     case Qt::Key_End:
-      return MoveTo(ButtonCount());
+      return MoveTo(CellCount());
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -175,7 +173,7 @@ void ToolStrip::keyPressEvent(QKeyEvent *event) {
 }
 
 void ToolStrip::MoveTo(int button) {
-  current_ = std::clamp(button, 1, ButtonCount());
+  current_ = std::clamp(button, 1, CellCount());
   update();
   QAccessibleEvent focused(this, QAccessible::Focus);
   focused.setChild(current_ - 1);

@@ -7,12 +7,13 @@
 #include <map>
 
 #include "base/StripButton.h"
+#include "toolkit/DrawnCells.h"
 
 /// A row or column of buttons in cells of 24 by 24 pixels, drawn point by point. Buttons are
 /// numbered from 1 at the strip's start. The pointer raises the cell it is over; a press sinks it.
 /// With the keyboard Tab reaches the strip once, arrows move inside it, Space and Return press. To
 /// assistive tools each button is a push button named by its tooltip.
-class ToolStrip : public QWidget {
+class ToolStrip : public QWidget, public DrawnCells {
   Q_OBJECT
 
  public:
@@ -23,13 +24,14 @@ class ToolStrip : public QWidget {
   ToolStrip(Qt::Orientation direction, const QStringList &toolTips, QWidget *parent = nullptr);
 
   const QStringList &ToolTips() const { return toolTips_; }
-  int ButtonCount() const { return int(toolTips_.size()); }
 
-  /// The place of a button's cell.
-  QRect CellRect(int button) const;
-
-  /// The button that the keyboard is at.
-  int CurrentButton() const { return current_; }
+  int CellCount() const override { return int(toolTips_.size()); }
+  QString CellName(int button) const override { return toolTips_[button - 1]; }
+  QRect CellRect(int button) const override;
+  void PressCell(int button) override { Press(button); }
+  int CurrentCell() const override { return current_; }
+  QAccessible::Role Role() const override { return QAccessible::ToolBar; }
+  QAccessible::Role CellRole() const override { return QAccessible::PushButton; }
 
   /// Does what a click on the button does.
   void Press(int button);
@@ -68,7 +70,7 @@ class ToolStrip : public QWidget {
  private:
   enum class Look { Raised, Sunken };
 
-  bool IsButton(int button) const { return button >= 1 && button <= ButtonCount(); }
+  bool IsButton(int button) const { return button >= 1 && button <= CellCount(); }
   int ButtonUnder(QPoint place) const;
   void Mark(int button, Look look);
   void MoveTo(int button);

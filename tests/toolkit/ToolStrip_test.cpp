@@ -71,7 +71,7 @@ TEST_F(ToolStripTest, TheKeyboardMovesInsideAndPresses) {
     QTest::keyClick(&strip, key);
   }
   EXPECT_EQ(pressed, (QList<int>{1, 2, 3, 1}));
-  EXPECT_EQ(strip.CurrentButton(), 3);
+  EXPECT_EQ(strip.CurrentCell(), 3);
   EXPECT_EQ(ToolStrip(Qt::Horizontal, {}).focusPolicy(), Qt::NoFocus) << "a picture is no stop";
 }
 

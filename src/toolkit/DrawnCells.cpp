@@ -1,43 +1,43 @@
-#include "toolkit/ToolStripAccessible.h"
+#include "toolkit/DrawnCells.h"
 
 #include <QAccessibleWidget>
 #include <QPointer>
+#include <QWidget>
 #include <vector>
-
-#include "toolkit/ToolStrip.h"
 
 namespace {
 
-class Button : public QAccessibleInterface, public QAccessibleActionInterface {
+class Cell : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  Button(ToolStrip *strip, int number) : strip_(strip), number_(number) {}
+  Cell(QWidget *widget, DrawnCells *cells, int number)
+      : widget_(widget), cells_(cells), number_(number) {}
 
-  bool isValid() const override { return strip_; }
+  bool isValid() const override { return widget_; }
   QObject *object() const override { return nullptr; }
-  QWindow *window() const override { return strip_->window()->windowHandle(); }
+  QWindow *window() const override { return widget_->window()->windowHandle(); }
   QAccessibleInterface *parent() const override {
-    return QAccessible::queryAccessibleInterface(strip_);
+    return QAccessible::queryAccessibleInterface(widget_);
   }
   QAccessibleInterface *child(int) const override { return nullptr; }
   QAccessibleInterface *childAt(int, int) const override { return nullptr; }
   int childCount() const override { return 0; }
   int indexOfChild(const QAccessibleInterface *) const override { return -1; }
 
-  QAccessible::Role role() const override { return QAccessible::PushButton; }
+  QAccessible::Role role() const override { return cells_->CellRole(); }
   QString text(QAccessible::Text text) const override {
-    return text == QAccessible::Name ? strip_->ToolTips()[number_ - 1] : QString();
+    return text == QAccessible::Name ? cells_->CellName(number_) : QString();
   }
   void setText(QAccessible::Text, const QString &) override {}
   QRect rect() const override {
-    const QRect cell = strip_->CellRect(number_);
-    return QRect(strip_->mapToGlobal(cell.topLeft()), cell.size());
+    const QRect cell = cells_->CellRect(number_);
+    return QRect(widget_->mapToGlobal(cell.topLeft()), cell.size());
   }
   QAccessible::State state() const override {
     QAccessible::State state;
     state.focusable = true;
-    state.focused = strip_->hasFocus() && strip_->CurrentButton() == number_;
-    state.disabled = !strip_->isEnabled();
-    state.invisible = !strip_->isVisible();
+    state.focused = widget_->hasFocus() && cells_->CurrentCell() == number_;
+    state.disabled = !widget_->isEnabled();
+    state.invisible = !widget_->isVisible();
     return state;
   }
 
@@ -47,30 +47,32 @@ class Button : public QAccessibleInterface, public QAccessibleActionInterface {
   }
   QStringList actionNames() const override { return {pressAction()}; }
   void doAction(const QString &action) override {
-    if (action == pressAction()) strip_->Press(number_);
+    if (action == pressAction()) cells_->PressCell(number_);
   }
   QStringList keyBindingsForAction(const QString &) const override { return {}; }
 
  private:
-  QPointer<ToolStrip> strip_;
+  QPointer<QWidget> widget_;
+  DrawnCells *cells_;  // a part of the widget
   int number_;
 };
 
 class Strip : public QAccessibleWidget {
  public:
-  explicit Strip(ToolStrip *strip) : QAccessibleWidget(strip, QAccessible::ToolBar) {
-    for (int button = 1; button <= strip->ButtonCount(); ++button) {
-      buttons_.push_back(QAccessible::registerAccessibleInterface(new Button(strip, button)));
+  Strip(QWidget *widget, DrawnCells *cells)
+      : QAccessibleWidget(widget, cells->Role()), source_(cells) {
+    for (int cell = 1; cell <= cells->CellCount(); ++cell) {
+      cells_.push_back(QAccessible::registerAccessibleInterface(new Cell(widget, cells, cell)));
     }
   }
   ~Strip() override {
-    for (const QAccessible::Id button : buttons_) QAccessible::deleteAccessibleInterface(button);
+    for (const QAccessible::Id cell : cells_) QAccessible::deleteAccessibleInterface(cell);
   }
 
-  int childCount() const override { return int(buttons_.size()); }
+  int childCount() const override { return int(cells_.size()); }
   QAccessibleInterface *child(int index) const override {
     const bool exists = index >= 0 && index < childCount();
-    return exists ? QAccessible::accessibleInterface(buttons_[index]) : nullptr;
+    return exists ? QAccessible::accessibleInterface(cells_[index]) : nullptr;
   }
   int indexOfChild(const QAccessibleInterface *sought) const override {
     for (int i = 0; i < childCount(); ++i) {
@@ -85,22 +87,23 @@ class Strip : public QAccessibleWidget {
     return nullptr;
   }
   QAccessibleInterface *focusChild() const override {
-    const auto &strip = static_cast<const ToolStrip &>(*widget());
-    return strip.hasFocus() ? child(strip.CurrentButton() - 1) : nullptr;
+    return widget()->hasFocus() ? child(source_->CurrentCell() - 1) : nullptr;
   }
 
  private:
-  std::vector<QAccessible::Id> buttons_;
+  DrawnCells *source_;
+  std::vector<QAccessible::Id> cells_;
 };
 
 QAccessibleInterface *Make(const QString &, QObject *object) {
-  auto *strip = qobject_cast<ToolStrip *>(object);
-  return strip && strip->ButtonCount() > 0 ? new Strip(strip) : nullptr;
+  auto *widget = qobject_cast<QWidget *>(object);
+  auto *cells = dynamic_cast<DrawnCells *>(object);
+  return widget && cells && cells->CellCount() > 0 ? new Strip(widget, cells) : nullptr;
 }
 
 }  // namespace
 
-void ToolStripAccessible::Install() {
+void DrawnCells::InstallAccessible() {
   static const bool installed = [] {
     QAccessible::installFactory(&Make);
     return true;
