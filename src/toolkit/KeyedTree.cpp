@@ -1,5 +1,7 @@
 #include "toolkit/KeyedTree.h"
 
+#include <algorithm>
+
 KeyedTree::KeyedTree(QWidget *parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
   setColumnCount(1);
@@ -29,6 +31,16 @@ QTreeWidgetItem *KeyedTree::Node(int ordinal) const {
   return ordinal >= 1 && ordinal <= NodeCount() ? nodes_[ordinal - 1] : nullptr;
 }
 
+int KeyedTree::Ordinal(const QTreeWidgetItem *node) const {
+  const auto found = std::find(nodes_.begin(), nodes_.end(), node);
+  return found == nodes_.end() ? 0 : int(found - nodes_.begin()) + 1;
+}
+
 void KeyedTree::SetImage(QTreeWidgetItem *node, int image) {
   if (node) node->setIcon(0, images_.value(image - 1));
+}
+
+void KeyedTree::keyPressEvent(QKeyEvent *event) {
+  QTreeWidget::keyPressEvent(event);
+  Q_EMIT KeyPressed();
 }

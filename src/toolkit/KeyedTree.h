@@ -27,12 +27,20 @@ class KeyedTree : public QTreeWidget {
   QTreeWidgetItem *Add(const QString &parentKey, const QString &text, const QString &key = {});
 
   int NodeCount() const { return int(nodes_.size()); }
-  QTreeWidgetItem *Node(int ordinal) const;  ///< null if there is none
+  QTreeWidgetItem *Node(int ordinal) const;        ///< null if there is none
+  int Ordinal(const QTreeWidgetItem *node) const;  ///< 0 for a node that isn't in the tree
   QTreeWidgetItem *NodeByKey(const QString &key) const { return byKey_.value(key); }
 
   /// Gives a node the picture of that number; a number without a picture takes it away. A null node
   /// is skipped.
   void SetImage(QTreeWidgetItem *node, int image);
+
+ Q_SIGNALS:
+  /// A key was pressed in the tree, and the tree has followed it already.
+  void KeyPressed();
+
+ protected:
+  void keyPressEvent(QKeyEvent *event) override;
 
  private:
   QVector<QIcon> images_;
