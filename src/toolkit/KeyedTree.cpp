@@ -16,15 +16,21 @@ void KeyedTree::ClearNodes() {
 }
 
 QTreeWidgetItem *KeyedTree::Add(const QString &parentKey, const QString &text, const QString &key) {
+  auto node = std::make_unique<QTreeWidgetItem>();
+  node->setText(0, text);
+  return Add(parentKey, std::move(node), key);
+}
+
+QTreeWidgetItem *KeyedTree::Add(const QString &parentKey, std::unique_ptr<QTreeWidgetItem> node,
+                                const QString &key) {
   if (!key.isEmpty() && byKey_.contains(key)) return nullptr;
   QTreeWidgetItem *parent = parentKey.isEmpty() ? invisibleRootItem() : byKey_.value(parentKey);
   if (!parent) return nullptr;
-  auto *node = new QTreeWidgetItem;
-  node->setText(0, text);
-  parent->addChild(node);
-  nodes_.push_back(node);
-  if (!key.isEmpty()) byKey_.insert(key, node);
-  return node;
+  QTreeWidgetItem *added = node.release();
+  parent->addChild(added);
+  nodes_.push_back(added);
+  if (!key.isEmpty()) byKey_.insert(key, added);
+  return added;
 }
 
 QTreeWidgetItem *KeyedTree::Node(int ordinal) const {

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTreeWidget>
 #include <QVector>
+#include <memory>
 #include <vector>
 
 /// A tree whose nodes are reached by key or by their ordinal number in the order of adding,
@@ -25,6 +26,11 @@ class KeyedTree : public QTreeWidget {
   /// collapsed, without picture. Null, and no node, if there is no such parent or the key is taken.
   /// A node may do without a key.
   QTreeWidgetItem *Add(const QString &parentKey, const QString &text, const QString &key = {});
+
+  /// The same with a node that has its looks already, which costs the tree less than giving them
+  /// later. The tree takes it over; it is gone where it couldn't be added.
+  QTreeWidgetItem *Add(const QString &parentKey, std::unique_ptr<QTreeWidgetItem> node,
+                       const QString &key = {});
 
   int NodeCount() const { return int(nodes_.size()); }
   QTreeWidgetItem *Node(int ordinal) const;        ///< null if there is none
