@@ -32,4 +32,9 @@ struct FixedText {
     while (last > first && last[-1] == ' ') --last;
     return {first, last - first};
   }
+
+  /// Whether nothing but blanks stands in it; soon known of a field that begins with its text.
+  bool IsBlank() const {
+    return std::all_of(bytes, bytes + N, [](char byte) { return byte == ' '; });
+  }
 };

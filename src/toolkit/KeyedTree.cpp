@@ -1,5 +1,7 @@
 #include "toolkit/KeyedTree.h"
 
+#include <algorithm>
+
 KeyedTree::KeyedTree(QWidget *parent) : QTreeWidget(parent) {
   setHeaderHidden(true);
   setColumnCount(1);
@@ -14,21 +16,37 @@ void KeyedTree::ClearNodes() {
 }
 
 QTreeWidgetItem *KeyedTree::Add(const QString &parentKey, const QString &text, const QString &key) {
+  auto node = std::make_unique<QTreeWidgetItem>();
+  node->setText(0, text);
+  return Add(parentKey, std::move(node), key);
+}
+
+QTreeWidgetItem *KeyedTree::Add(const QString &parentKey, std::unique_ptr<QTreeWidgetItem> node,
+                                const QString &key) {
   if (!key.isEmpty() && byKey_.contains(key)) return nullptr;
   QTreeWidgetItem *parent = parentKey.isEmpty() ? invisibleRootItem() : byKey_.value(parentKey);
   if (!parent) return nullptr;
-  auto *node = new QTreeWidgetItem;
-  node->setText(0, text);
-  parent->addChild(node);
-  nodes_.push_back(node);
-  if (!key.isEmpty()) byKey_.insert(key, node);
-  return node;
+  QTreeWidgetItem *added = node.release();
+  parent->addChild(added);
+  nodes_.push_back(added);
+  if (!key.isEmpty()) byKey_.insert(key, added);
+  return added;
 }
 
 QTreeWidgetItem *KeyedTree::Node(int ordinal) const {
   return ordinal >= 1 && ordinal <= NodeCount() ? nodes_[ordinal - 1] : nullptr;
 }
 
+int KeyedTree::Ordinal(const QTreeWidgetItem *node) const {
+  const auto found = std::find(nodes_.begin(), nodes_.end(), node);
+  return found == nodes_.end() ? 0 : int(found - nodes_.begin()) + 1;
+}
+
 void KeyedTree::SetImage(QTreeWidgetItem *node, int image) {
   if (node) node->setIcon(0, images_.value(image - 1));
+}
+
+void KeyedTree::keyPressEvent(QKeyEvent *event) {
+  QTreeWidget::keyPressEvent(event);
+  Q_EMIT KeyPressed();
 }

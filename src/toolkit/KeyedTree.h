@@ -5,6 +5,7 @@
 #include <QString>
 #include <QTreeWidget>
 #include <QVector>
+#include <memory>
 #include <vector>
 
 /// A tree whose nodes are reached by key or by their ordinal number in the order of adding,
@@ -26,13 +27,26 @@ class KeyedTree : public QTreeWidget {
   /// A node may do without a key.
   QTreeWidgetItem *Add(const QString &parentKey, const QString &text, const QString &key = {});
 
+  /// The same with a node that has its looks already, which costs the tree less than giving them
+  /// later. The tree takes it over; it is gone where it couldn't be added.
+  QTreeWidgetItem *Add(const QString &parentKey, std::unique_ptr<QTreeWidgetItem> node,
+                       const QString &key = {});
+
   int NodeCount() const { return int(nodes_.size()); }
-  QTreeWidgetItem *Node(int ordinal) const;  ///< null if there is none
+  QTreeWidgetItem *Node(int ordinal) const;        ///< null if there is none
+  int Ordinal(const QTreeWidgetItem *node) const;  ///< 0 for a node that isn't in the tree
   QTreeWidgetItem *NodeByKey(const QString &key) const { return byKey_.value(key); }
 
   /// Gives a node the picture of that number; a number without a picture takes it away. A null node
   /// is skipped.
   void SetImage(QTreeWidgetItem *node, int image);
+
+ Q_SIGNALS:
+  /// A key was pressed in the tree, and the tree has followed it already.
+  void KeyPressed();
+
+ protected:
+  void keyPressEvent(QKeyEvent *event) override;
 
  private:
   QVector<QIcon> images_;
