@@ -128,6 +128,9 @@ void frmHTMLChild::Resize() {
   mPublic::iActualEditor = Slot();
   const QPointer<frmHTMLChild> self(this);
   const auto pumped = [&self] { return StandsAfterEvents(self); };
+  // The outline is still that of the old size, and what is drawn while pumping would end there. The
+  // window gets the new one when this is over.
+  clearMask();
   if (!pumped()) return;
   txthtml->move(51, -1);
   if (!pumped()) return;
