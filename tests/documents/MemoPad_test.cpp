@@ -22,6 +22,7 @@ class MemoPadTest : public FormsTest {
 TEST_F(MemoPadTest, EvenAnEmptyPadAsksBeforeItGoes) {
   EXPECT_FALSE(pad->parentWidget());
   EXPECT_EQ(pad->windowHandle()->transientParent(), main->windowHandle());
+  EXPECT_EQ(pad->windowType(), Qt::Dialog) << "which the window manager keeps above";
   dialogs.answers = {Answer::No, Answer::Cancel, Answer::Yes};
   for (const bool stays : {true, true, false}) {
     EXPECT_EQ(pad->close(), !stays);
