@@ -64,8 +64,8 @@ EditorEvents::EditorEvents(frmHTMLChild *editor)
   }
 }
 
-// Keys come to the box, the mouse to its viewport or, beside the text, to the box. Other events come
-// also while the window is being destroyed.
+// Keys come to the box, the mouse to its viewport or, beside the text, to the box. Other events
+// come also while the window is being destroyed.
 bool EditorEvents::eventFilter(QObject *, QEvent *event) {
   switch (event->type()) {
     case QEvent::KeyPress:
@@ -161,18 +161,7 @@ void EditorEvents::MouseDown() {
 
 // Pumping brings the next move in the middle of this one; the last one is handled at its end.
 void EditorEvents::MouseMove() {
-  if (moving_) {
-    movedAgain_ = true;
-    return;
-  }
-  const QPointer<EditorEvents> self(this);
-  moving_ = true;
-  do {
-    movedAgain_ = false;
-    MouseMoveOnce();
-    if (!self) return;
-  } while (movedAgain_);
-  moving_ = false;
+  move_.Run([this] { MouseMoveOnce(); });
 }
 
 void EditorEvents::MouseMoveOnce() {

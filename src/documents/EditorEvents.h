@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include "toolkit/FrozenPainting.h"
+#include "toolkit/OneAtATime.h"
 
 class QKeyEvent;
 class frmHTMLChild;
@@ -33,6 +34,5 @@ class EditorEvents : public QObject {
 
   frmHTMLChild *editor_;
   FrozenPainting *painting_;
-  bool moving_ = false;
-  bool movedAgain_ = false;
+  OneAtATime move_;
 };

@@ -9,6 +9,7 @@
 #include "frame/mdiMain.h"
 #include "toolkit/DoEvents.h"
 #include "toolkit/KeyedTree.h"
+#include "toolkit/OneAtATime.h"
 
 namespace {
 
@@ -61,19 +62,11 @@ void RebuildOnce(KeyedTree &tree) {
 }  // namespace
 
 void RebuildOpenFilesTree() {
-  static bool running = false;
-  static bool again = false;
-  if (running) {
-    again = true;
-    return;
-  }
+  static OneAtATime rebuild;
   const QPointer<KeyedTree> tree = Default<mdiMain>()->trwOpenFiles;
-  running = true;
-  do {
-    again = false;
-    RebuildOnce(*tree);
-  } while (again && tree);
-  running = false;
+  rebuild.Run([&tree] {
+    if (tree) RebuildOnce(*tree);
+  });
 }
 
 OpenFilesTreeHandlers::OpenFilesTreeHandlers(KeyedTree *tree) : QObject(tree), tree_(tree) {

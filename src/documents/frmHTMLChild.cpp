@@ -118,23 +118,7 @@ void frmHTMLChild::PlaceBoxes() {
   DoEvents();
 }
 
-// Pumping lets the next size arrive in the middle; it is handled when this one is done.
 void frmHTMLChild::Resize() {
-  if (resizing_) {
-    resizeAgain_ = true;
-    return;
-  }
-  const QPointer<frmHTMLChild> self(this);
-  resizing_ = true;
-  do {
-    resizeAgain_ = false;
-    ResizeOnce();
-    if (!self) return;
-  } while (resizeAgain_);
-  resizing_ = false;
-}
-
-void frmHTMLChild::ResizeOnce() {
   if (IsUnloaded()) return;
   if (Slot() == 0) {
     Unload(*this);
@@ -198,7 +182,8 @@ bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
     return true;
   }
   if (watched == client_ && event->type() == QEvent::Resize) {
-    Resize();
+    // Pumping lets the next size arrive in the middle; it is handled when this one is done.
+    resize_.Run([this] { Resize(); });
   } else if (watched == client_ && event->type() == QEvent::MouseMove) {
     RepairLayout();
   }

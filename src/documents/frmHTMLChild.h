@@ -5,6 +5,7 @@
 #include <QString>
 
 #include "documents/Landmarks.h"
+#include "toolkit/OneAtATime.h"
 #include "toolkit/RichTextBox.h"
 #include "toolkit/mForms.h"
 
@@ -65,12 +66,10 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
 
  private:
   void Resize();
-  void ResizeOnce();
   void RepairLayout();
   void FollowLandmarks(int position, int removed, int added);
 
   QString caption_;
   QWidget *client_;
-  bool resizing_ = false;
-  bool resizeAgain_ = false;
+  OneAtATime resize_;
 };

@@ -52,6 +52,8 @@ void mdiMain::SetUpPanel() {
   cmdTagDescriptionLarge = new QPushButton(QStringLiteral("large"), picRightWindows);
   cmdTagDescriptionLarge->setObjectName(QStringLiteral("cmdTagDescriptionLarge"));
   cmdTagDescriptionLarge->setEnabled(false);
+  // Three pixels between the description and its title, where other parts touch theirs.
+  layRightWindows->insertSpacing(layRightWindows->indexOf(picTagDescription), 1);
   titles_ = {{{1, lblWindowTitelOpenFiles, {trwOpenFiles}},
               {2, lblWindowTitelStencilWindow, {trwStencils, trwSelfBuildedStencils}},
               {4, lblWindowTitelTagDescription, {picTagDescription}}}};

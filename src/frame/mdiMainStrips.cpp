@@ -51,11 +51,11 @@ const QStringList textToolTips{QStringLiteral("Highlight Borders Tags"),
 }  // namespace
 
 void mdiMain::FillBars() {
-  const auto strip = [this](QToolBar *bar, const char *name, Qt::Orientation direction,
+  const auto strip = [this](QToolBar *bar, const char *name, const char *spokenName,
                             const QStringList &toolTips) {
-    auto *made = new ToolStrip(direction, toolTips, this);
+    auto *made = new ToolStrip(bar->orientation(), toolTips, this);
     made->setObjectName(QLatin1String(name));
-    made->setAccessibleName(bar->windowTitle());
+    made->setAccessibleName(QLatin1String(spokenName));
     bar->addWidget(made);
     return made;
   };
@@ -79,18 +79,17 @@ void mdiMain::FillBars() {
   cboFontsize->setObjectName(QStringLiteral("cboFontsize"));
   cbrTop->addWidget(picColor);
   cbrTop->addWidget(picFontColor);
-  picButtons = strip(cbrTop, "picButtons", Qt::Horizontal, formatToolTips);
+  picButtons = strip(cbrTop, "picButtons", "Format", formatToolTips);
   cbrTop->addSeparator();
   cbrTop->addWidget(cboFontStyle);
   cbrTop->addWidget(cboFontsize);
   cbrTop->addSeparator();
-  picHtmlTextOptions = strip(cbrTop, "picHtmlTextOptions", Qt::Horizontal, textToolTips);
-  picHtmlTextOptions->setAccessibleName(QStringLiteral("Text look"));
-  picLeftArrow = strip(cbrTop, "picLeftArrow", Qt::Horizontal, {});
-  picLeft = strip(barLeft, "picLeft", Qt::Vertical, fileToolTips);
-  picJava = strip(cbrLeft, "picJava", Qt::Vertical, javaToolTips);
-  picRight = strip(cbrLeft, "picRight", Qt::Vertical, windowToolTips);
-  picBottom = strip(barBottom, "picBottom", Qt::Horizontal, helpToolTips);
+  picHtmlTextOptions = strip(cbrTop, "picHtmlTextOptions", "Text look", textToolTips);
+  picLeftArrow = strip(cbrTop, "picLeftArrow", "Arrow", {});
+  picLeft = strip(barLeft, "picLeft", "File and edit", fileToolTips);
+  picJava = strip(cbrLeft, "picJava", "Java", javaToolTips);
+  picRight = strip(cbrLeft, "picRight", "Windows", windowToolTips);
+  picBottom = strip(barBottom, "picBottom", "Help", helpToolTips);
 }
 
 void mdiMain::ConnectStrips() {

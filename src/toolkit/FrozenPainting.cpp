@@ -14,6 +14,7 @@ bool ChangesWhatIsSeen(QEvent::Type type) {
     case QEvent::Wheel:
     case QEvent::TouchBegin:
     case QEvent::TabletPress:
+    case QEvent::InputMethod:
     case QEvent::Resize:
     case QEvent::FocusIn:
     case QEvent::FocusOut:
