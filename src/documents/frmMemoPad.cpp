@@ -10,6 +10,8 @@
 
 frmMemoPad::frmMemoPad() {
   setupUi(this);
+  // Window managers keep only dialogs above another window.
+  setWindowFlags(Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
 }
 
 void frmMemoPad::Load() {

@@ -13,7 +13,6 @@ class MemoPadTest : public FormsTest {
   MemoPadTest() {
     ShowMemoPad();
     pad = Default<frmMemoPad>();
-    dialogs.answers = {Answer::Yes};  // at the main window's close
   }
 
   QPointer<frmMemoPad> pad;
@@ -22,6 +21,7 @@ class MemoPadTest : public FormsTest {
 TEST_F(MemoPadTest, EvenAnEmptyPadAsksBeforeItGoes) {
   EXPECT_FALSE(pad->parentWidget());
   EXPECT_EQ(pad->windowHandle()->transientParent(), main->windowHandle());
+  EXPECT_EQ(pad->windowType(), Qt::Dialog) << "which the window manager keeps above";
   dialogs.answers = {Answer::No, Answer::Cancel, Answer::Yes};
   for (const bool stays : {true, true, false}) {
     EXPECT_EQ(pad->close(), !stays);
@@ -49,13 +49,6 @@ TEST_F(MemoPadTest, HasItsSmallestSizeAndTheFontSizeOfThePreferences) {
   mPublic::WritePreferences();
 }
 
-TEST_F(MemoPadTest, GoesWithTheMainWindowIfItMay) {
-  dialogs.answers.push_back(Answer::Yes);
-  EXPECT_TRUE(main->close());
-  EXPECT_TRUE(!pad || pad->IsUnloaded());
-  EXPECT_EQ(ended, 1);
-}
-
 TEST_F(MemoPadTest, AKeptPadIsTheLastWindowAndEndsTheProgram) {
   Open(QStringLiteral("a.html"), "a");
   Type(Open(QStringLiteral("b.html"), "b"), QStringLiteral("x"));
@@ -77,20 +70,20 @@ TEST_F(MemoPadTest, AKeptPadIsTheLastWindowAndEndsTheProgram) {
   EXPECT_FALSE(mForms::Find(QStringLiteral("mdiMain"))) << "nobody has made a second one";
 }
 
-TEST_F(MemoPadTest, QuitEndsTheProgramWhateverIsAnswered) {
-  dialogs.answers.push_back(Answer::No);
-  main->mnuFileQuit->trigger();
+TEST_F(MemoPadTest, GoesWithTheMainWindowIfItMay) {
+  dialogs.answers = {Answer::Yes, Answer::Yes};
+  EXPECT_TRUE(main->close());
+  EXPECT_TRUE(pad->IsUnloaded());
   EXPECT_EQ(ended, 1);
-  EXPECT_TRUE(pad->isVisible());
-  dialogs.answers.clear();
-  main->close();
-  EXPECT_EQ(ended, 2) << "a close behind a confirmed quit asks nothing";
 }
 
-TEST_F(MemoPadTest, AProcessAskedToEndDoesSoWithTheMainWindow) {
-  dialogs.answers.push_back(Answer::No);
-  EXPECT_TRUE(Unload(*main, UnloadMode::TaskManager));
+TEST_F(MemoPadTest, NoHoldsUpNeitherTheQuitCommandNorTheProcessesEnd) {
+  dialogs.answers = {Answer::Yes, Answer::No, Answer::Yes, Answer::No};
+  main->mnuFileQuit->trigger();
   EXPECT_EQ(ended, 1);
+  mPublic::bAppClosing = false;
+  EXPECT_TRUE(Unload(*main, UnloadMode::TaskManager));
+  EXPECT_EQ(ended, 2);
 }
 
 }  // namespace
