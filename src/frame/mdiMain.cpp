@@ -13,6 +13,7 @@
 #include "documents/EditCommands.h"
 #include "documents/FileCommands.h"
 #include "documents/OpenFilesTree.h"
+#include "documents/Printing.h"
 #include "documents/frmMemoPad.h"
 #include "documents/frmSearch.h"
 #include "documents/mEditors.h"
@@ -74,6 +75,7 @@ void mdiMain::ConnectMenus() {
   connect(mnuFileSave, &QAction::triggered, this, &FileCommands::Save);
   connect(mnuFileSaveAs, &QAction::triggered, this, &FileCommands::SaveAs);
   connect(mnuFileSaveAll, &QAction::triggered, this, &FileCommands::SaveAll);
+  connect(mnuFilePrint, &QAction::triggered, this, &PrintCommand);
   connect(mnuFileQuit, &QAction::triggered, this, &mdiMain::mnuFileQuit_Click);
   connect(mnuEditCut, &QAction::triggered, this, &EditCommands::Cut);
   connect(mnuEditCopy, &QAction::triggered, this, &EditCommands::Copy);
