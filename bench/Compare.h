@@ -49,6 +49,7 @@ void BenchTyping();
 void BenchColouring();
 void BenchMoves();
 void BenchTree();
+void BenchArrange();
 
 int PlayStart();
 int PlayOpening(const QString &file);

@@ -51,6 +51,7 @@ int main(int argc, char **argv) {
   if (wanted("colouring")) BenchColouring();
   if (wanted("moves")) BenchMoves();
   if (wanted("tree")) BenchTree();
+  if (wanted("arrange")) BenchArrange();
   mForms::DestroyAll();
   return 0;
 }

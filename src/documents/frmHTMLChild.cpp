@@ -41,6 +41,12 @@ void SetUpBox(RichTextBox &box, const char *name, int margin) {
   box.setPalette(Paper());
 }
 
+// Pumps events. Whether the window is still there then.
+bool StandsAfterEvents(const QPointer<frmHTMLChild> &editor) {
+  DoEvents();
+  return editor && !editor->IsUnloaded();
+}
+
 }  // namespace
 
 frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
@@ -121,10 +127,10 @@ void frmHTMLChild::Resize() {
   if (mPublic::bAppClosing || Slot() < 0) return;
   mPublic::iActualEditor = Slot();
   const QPointer<frmHTMLChild> self(this);
-  const auto pumped = [&self] {
-    DoEvents();
-    return self && !self->IsUnloaded();
-  };
+  const auto pumped = [&self] { return StandsAfterEvents(self); };
+  // The outline is still that of the old size, and what is drawn while pumping would end there. The
+  // window gets the new one when this is over.
+  clearMask();
   if (!pumped()) return;
   txthtml->move(51, -1);
   if (!pumped()) return;
@@ -143,6 +149,18 @@ void frmHTMLChild::Resize() {
   // The numbers begin at 1 now, which is wrong for a text that is scrolled.
   firstNumberedLine = 0;
   SyncLineNumbers(AllLineNumbers);
+}
+
+void frmHTMLChild::PlaceText() {
+  const QPointer<frmHTMLChild> self(this);
+  txthtml->move(53, txthtml->y());
+  if (!StandsAfterEvents(self)) return;
+  txthtml->move(txthtml->x(), -1);
+  if (!StandsAfterEvents(self)) return;
+  txthtml->resize(txthtml->width(), client_->height() + 2);
+  if (!StandsAfterEvents(self)) return;
+  txthtml->resize(client_->width() - 52, txthtml->height());
+  DoEvents();
 }
 
 void frmHTMLChild::SyncLineNumbers(int count) {

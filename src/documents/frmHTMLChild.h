@@ -48,6 +48,10 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
   /// The first layout of a new window. Pumps events: the window may be gone afterwards.
   void PlaceBoxes();
 
+  /// The last step of arranging the windows: the text stands two pixels further right than after a
+  /// change of size. Pumps events: the window may be gone afterwards.
+  void PlaceText();
+
   static constexpr int AllLineNumbers = 200;
 
   /// Builds so many line numbers anew if the first visible line is another than the one that they

@@ -13,10 +13,13 @@
 #include "documents/EditCommands.h"
 #include "documents/FileCommands.h"
 #include "documents/OpenFilesTree.h"
+#include "documents/Printing.h"
+#include "documents/frmMemoPad.h"
 #include "documents/frmSearch.h"
 #include "documents/mEditors.h"
 #include "frame/ApplyPreferences.h"
 #include "frame/FocusRound.h"
+#include "frame/WindowCommands.h"
 #include "frame/mPublic.h"
 #include "stencils/LoadStencilTrees.h"
 #include "toolkit/DoEvents.h"
@@ -72,12 +75,22 @@ void mdiMain::ConnectMenus() {
   connect(mnuFileSave, &QAction::triggered, this, &FileCommands::Save);
   connect(mnuFileSaveAs, &QAction::triggered, this, &FileCommands::SaveAs);
   connect(mnuFileSaveAll, &QAction::triggered, this, &FileCommands::SaveAll);
+  connect(mnuFilePrint, &QAction::triggered, this, &PrintCommand);
   connect(mnuFileQuit, &QAction::triggered, this, &mdiMain::mnuFileQuit_Click);
   connect(mnuEditCut, &QAction::triggered, this, &EditCommands::Cut);
   connect(mnuEditCopy, &QAction::triggered, this, &EditCommands::Copy);
   connect(mnuEditPaste, &QAction::triggered, this, &EditCommands::Paste);
   connect(mnuEditClearClipboard, &QAction::triggered, this, &EditCommands::ClearClipboard);
   connect(mnuEditSearch, &QAction::triggered, this, [] { Default<frmSearch>()->show(); });
+  connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
+  connect(mnuWindowCascade, &QAction::triggered, this, &WindowCommands::Cascade);
+  connect(mnuWindowTileHoricontally, &QAction::triggered, this, &WindowCommands::TileHoricontally);
+  connect(mnuWindowTileVertitally, &QAction::triggered, this, &WindowCommands::TileVertitally);
+  connect(mnuWindowCloseAll, &QAction::triggered, this, &WindowCommands::CloseAll);
+  connect(mnuWindowMinimized, &QAction::triggered, this, &WindowCommands::Minimized);
+  connect(mnuWindowNormalSize, &QAction::triggered, this, &WindowCommands::NormalSize);
+  connect(mnuWindowMaximized, &QAction::triggered, this, &WindowCommands::Maximized);
+  connect(mnuWindowAllMinimized, &QAction::triggered, this, &WindowCommands::AllMinimized);
 }
 
 void mdiMain::SetUpFocusRound() {

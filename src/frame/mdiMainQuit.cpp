@@ -37,7 +37,7 @@ void UnloadEditors() {
 
 }  // namespace
 
-bool mdiMain::QueryUnload(UnloadMode) {
+bool mdiMain::QueryUnload(UnloadMode mode) {
   if (mPublic::bAppClosing) {
     EndProgram();
     return true;
@@ -52,11 +52,15 @@ bool mdiMain::QueryUnload(UnloadMode) {
   UnloadEditors();
   QFile::remove(
       mFolders::Join(mPlatform::Current().temporaryFolder, QStringLiteral("compiler.dat")));
+  if (mode == UnloadMode::TaskManager) EndProgram();
   return true;
 }
 
 void mdiMain::Unloaded() {
-  EndProgram();
+  // A handler that is still on the stack and asks for the main window gets this one, not a second.
+  mForms::Remember(QStringLiteral("mdiMain"), this);
+  // A memo pad that the user keeps is the program's last window and ends the program itself.
+  if (!mForms::Find(QStringLiteral("frmMemoPad"))) EndProgram();
 }
 
 void mdiMain::mnuFileQuit_Click() {

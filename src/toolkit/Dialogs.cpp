@@ -4,6 +4,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 
 #include "toolkit/FileFilter.h"
 
@@ -38,7 +40,34 @@ class PlatformDialogs : public Dialogs {
     return Choose(request, QFileDialog::AcceptSave, QFileDialog::AnyFile);
   }
 
+  std::optional<PrintChoice> Print(PrintRange range) override {
+    // Looking for printers can take a while, so it waits for this moment.
+    auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialog(device.get(), QApplication::activeWindow());
+    const bool selected = range == PrintRange::Selection;
+    QPrintDialog::PrintDialogOptions options =
+        QPrintDialog::PrintToFile | QPrintDialog::PrintShowPageSize;
+    if (selected) options |= QPrintDialog::PrintSelection;
+    dialog.setOptions(options);
+    dialog.setPrintRange(selected ? QPrintDialog::Selection : QPrintDialog::AllPages);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    const int copies = device->copyCount();
+    device->setCopyCount(1);  // else each of the caller's copies would be as many again
+    return PrintChoice{ChosenRange(dialog.printRange()), copies, MakePrinter(std::move(device))};
+  }
+
  private:
+  static PrintRange ChosenRange(QPrintDialog::PrintRange range) {
+    switch (range) {
+      case QPrintDialog::AllPages:
+        return PrintRange::All;
+      case QPrintDialog::Selection:
+        return PrintRange::Selection;
+      default:
+        return PrintRange::Pages;
+    }
+  }
+
   static QMessageBox::Icon BoxIcon(Icon icon) {
     switch (icon) {
       case Icon::Information:

@@ -4,6 +4,8 @@
 #include <memory>
 #include <optional>
 
+#include "toolkit/Printer.h"
+
 /// The one way to the dialogs that the platform provides. Tests put a scripted one in its place.
 class Dialogs {
  public:
@@ -17,6 +19,15 @@ class Dialogs {
     QString fileName;  ///< a path to begin at, or empty
   };
 
+  enum class PrintRange { All, Selection, Pages };
+
+  /// What the user chose to print, and on what.
+  struct PrintChoice {
+    PrintRange range;
+    int copies;                        ///< that the caller prints one by one
+    std::unique_ptr<Printer> printer;  ///< never null
+  };
+
   virtual ~Dialogs() = default;
 
   /// Shows a message box in front of the active window and waits for its answer. Closing it
@@ -26,6 +37,10 @@ class Dialogs {
   /// The path that the user chose, or nothing after Cancel.
   virtual std::optional<QString> OpenFile(const FileRequest &request) = 0;
   virtual std::optional<QString> SaveFile(const FileRequest &request) = 0;
+
+  /// The print dialog with that range chosen at first; a selection is offered only if there is one.
+  /// Nothing after Cancel.
+  virtual std::optional<PrintChoice> Print(PrintRange range) = 0;
 
   /// The dialogs in use: the platform's own unless others have been set.
   static Dialogs &Current();

@@ -308,6 +308,13 @@ bool RichTextBox::KeyJoinsTooMuch(const QKeyEvent &event) const {
 void RichTextBox::keyPressEvent(QKeyEvent *event) {
   ClearHit();
   if (KeyJoinsTooMuch(*event)) return;
+  constexpr Qt::KeyboardModifiers commands =
+      Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+  if ((event->modifiers() & commands) == Qt::AltModifier && !event->text().isEmpty()) {
+    // A menu's letter that no menu has. It would be typed otherwise.
+    event->ignore();
+    return;
+  }
   const QString text = event->text();
   const bool typed = !text.isEmpty() && (text.at(0).isPrint() || text.at(0).isHighSurrogate());
   if (typed && !isReadOnly() && !(mAnsi::Holds(text) && Fits(textCursor(), text))) {

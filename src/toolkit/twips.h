@@ -1,6 +1,8 @@
 #pragma once
 
-/// Device-independent pixels of a length in twips, 15 to the pixel.
+constexpr int TwipsPerPixel = 15;
+
+/// Device-independent pixels of a length in twips.
 constexpr int twips(int length) {
-  return length / 15;
+  return length / TwipsPerPixel;
 }

@@ -22,9 +22,11 @@ class ScriptedDialogs : public Dialogs {
 
   std::deque<Answer> answers;
   std::deque<std::optional<QString>> files;  ///< nothing is Cancel
-  QStringList messages;                      ///< "title|text|buttons" of every message box
-  QList<FileRequest> requests;               ///< of every file dialog
-  std::function<void()> whileOpen;           ///< runs while a message box stands
+  std::deque<std::optional<PrintChoice>> prints;
+  QList<PrintRange> printRanges;    ///< of every print dialog
+  QStringList messages;             ///< "title|text|buttons" of every message box
+  QList<FileRequest> requests;      ///< of every file dialog
+  std::function<void()> whileOpen;  ///< runs while a message box stands
 
   Answer Message(const QString &text, Buttons buttons, Icon, const QString &title) override {
     messages << title + u'|' + text + u'|' + QString::number(int(buttons));
@@ -36,6 +38,10 @@ class ScriptedDialogs : public Dialogs {
     return Next(files, std::optional<QString>());
   }
   std::optional<QString> SaveFile(const FileRequest &request) override { return OpenFile(request); }
+  std::optional<PrintChoice> Print(PrintRange range) override {
+    printRanges << range;
+    return Next(prints, std::optional<PrintChoice>());
+  }
 
  private:
   template <class T>
@@ -44,7 +50,7 @@ class ScriptedDialogs : public Dialogs {
       ADD_FAILURE() << "a dialog nobody expected";
       return otherwise;
     }
-    T next = list.front();
+    T next = std::move(list.front());
     list.pop_front();
     return next;
   }

@@ -91,6 +91,8 @@ TEST_F(RichTextBoxTest, ShiftReturnIsALineEndThatTheFileKeeps) {
   QTest::keyClicks(&box, Text("b"));
   EXPECT_EQ(box.Text(), Text("a\r\nb"));
   EXPECT_EQ(box.LineIndex(1), 3);
+  QTest::keyClick(&box, 'q', Qt::AltModifier);
+  EXPECT_EQ(box.Text(), Text("a\r\nb")) << "a letter with Alt is a menu's";
 }
 
 TEST_F(RichTextBoxTest, CopyKeepsNoBreakSpacesAndHasNoCarriageReturns) {
