@@ -5,7 +5,7 @@
 #include "toolkit/Dialogs.h"
 
 bool CommonDialog::ShowOpen() {
-  const auto chosen = Dialogs::Current().OpenFile({Filter, FileName});
+  const auto chosen = Dialogs::Current().OpenFile({Filter, FileName, MayBeNew});
   if (chosen) FileName = *chosen;
   return chosen.has_value();
 }

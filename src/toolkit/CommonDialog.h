@@ -7,6 +7,7 @@ class CommonDialog {
  public:
   QString Filter;    ///< pairs "label|patterns|label|patterns", patterns separated by ";"
   QString FileName;  ///< the last choice, kept after Cancel; what is set here is where it begins
+  bool MayBeNew = false;  ///< whether ShowOpen takes a name that doesn't exist yet
 
   /// Shows the dialog. False after Cancel.
   bool ShowOpen();

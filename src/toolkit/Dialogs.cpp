@@ -33,7 +33,8 @@ class PlatformDialogs : public Dialogs {
   }
 
   std::optional<QString> OpenFile(const FileRequest &request) override {
-    return Choose(request, QFileDialog::AcceptOpen, QFileDialog::ExistingFile);
+    return Choose(request, QFileDialog::AcceptOpen,
+                  request.mayBeNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   }
 
   std::optional<QString> SaveFile(const FileRequest &request) override {
@@ -108,6 +109,8 @@ class PlatformDialogs : public Dialogs {
     QFileDialog dialog(QApplication::activeWindow());
     dialog.setAcceptMode(mode);
     dialog.setFileMode(files);
+    // The desktops' own open dialogs refuse a name that doesn't exist.
+    dialog.setOption(QFileDialog::DontUseNativeDialog, request.mayBeNew);
     dialog.setNameFilters(NameFilters(request.filter));
     // The dialogs of a session share their folder: the next one begins where the last one ended.
     if (!lastFolder_.isEmpty()) dialog.setDirectory(lastFolder_);

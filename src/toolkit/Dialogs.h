@@ -15,8 +15,9 @@ class Dialogs {
 
   /// What a file dialog starts with.
   struct FileRequest {
-    QString filter;    ///< pairs "label|patterns|label|patterns", patterns separated by ";"
-    QString fileName;  ///< a path to begin at, or empty
+    QString filter;         ///< pairs "label|patterns|label|patterns", patterns separated by ";"
+    QString fileName;       ///< a path to begin at, or empty
+    bool mayBeNew = false;  ///< whether the open dialog takes a name that doesn't exist yet
   };
 
   enum class PrintRange { All, Selection, Pages };
