@@ -22,6 +22,12 @@
 #include "frame/WindowCommands.h"
 #include "frame/mPublic.h"
 #include "stencils/LoadStencilTrees.h"
+#include "stencils/StencilPanel.h"
+#include "stencils/frmExport.h"
+#include "stencils/frmQuickBar.h"
+#include "stencils/frmQuickbarEditor.h"
+#include "stencils/frmSelfStencilBuilder.h"
+#include "stencils/frmStencils.h"
 #include "toolkit/DoEvents.h"
 
 namespace {
@@ -55,6 +61,7 @@ mdiMain::mdiMain() {
   setCentralWidget(splClient);
   FillBars();
   SetUpPanel();
+  stencilPanel_ = new StencilPanel(this);
   ConnectMenus();
   ConnectStrips();
   SetUpFocusRound();
@@ -82,6 +89,15 @@ void mdiMain::ConnectMenus() {
   connect(mnuEditPaste, &QAction::triggered, this, &EditCommands::Paste);
   connect(mnuEditClearClipboard, &QAction::triggered, this, &EditCommands::ClearClipboard);
   connect(mnuEditSearch, &QAction::triggered, this, [] { Default<frmSearch>()->show(); });
+  connect(mnuFileExportSelfBuilded, &QAction::triggered, this,
+          [] { Default<frmExport>()->show(); });
+  connect(mnuViewStencilsWindow, &QAction::triggered, this, [] { Default<frmStencils>()->show(); });
+  // The editor shows itself, and may be gone again by then.
+  connect(mnuViewSelfStencilsWindow, &QAction::triggered, this,
+          [] { Default<frmSelfStencilBuilder>(); });
+  connect(mnuViewQuickBar, &QAction::triggered, this, &frmQuickBar::Open);
+  connect(mnuViewQuickBarEditor, &QAction::triggered, this,
+          [] { Default<frmQuickbarEditor>()->show(); });
   connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
   connect(mnuWindowCascade, &QAction::triggered, this, &WindowCommands::Cascade);
   connect(mnuWindowTileHoricontally, &QAction::triggered, this, &WindowCommands::TileHoricontally);
@@ -157,8 +173,8 @@ void mdiMain::AddTreeRoots() {
     tree.SetImageList(TreeImages());
     tree.SetImage(tree.Add({}, text, root), 4);
   };
-  stencilRoot(*trwStencils, QStringLiteral("Standard Stencils - html 4.01"));
-  stencilRoot(*trwSelfBuildedStencils, QStringLiteral("Self Builded Stencils"));
+  stencilRoot(*trwStencils, standardStencils);
+  stencilRoot(*trwSelfBuildedStencils, selfBuildedStencils);
 }
 
 void mdiMain::dragEnterEvent(QDragEnterEvent *event) {

@@ -14,6 +14,8 @@
 #include "toolkit/mForms.h"
 #include "ui_mdiMain.h"
 
+class StencilPanel;
+
 /// The main window: the area of the editor windows, with bars and panels around it.
 class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   Q_OBJECT
@@ -71,10 +73,13 @@ class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   void SetPanelWidth(int width);
   void ShowPanel(bool show);
   void PlaceLargeButton();
+  void PlaceStencilWindow();
+  void PlaceDescription();
   void cmdSizing_Click(int index);
   void timloadStencils_Timer();
   void mnuFileQuit_Click();
 
+  StencilPanel *stencilPanel_;
   std::array<QToolButton *, 3> cmdSizing_;
   std::array<PanelTitle, 3> titles_;
   int shownPanelWidth_ = 0;  ///< pixels, while the panel is hidden

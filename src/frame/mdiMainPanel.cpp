@@ -15,6 +15,8 @@ namespace {
 
 constexpr int sizingStep = twips(1000);
 constexpr int smallestArea = 200;  // pixels that the documents keep when the panel grows
+constexpr int stencilsTabHeight = 18;
+constexpr int stencilsTabOverlap = 2;
 constexpr int largeButtonLeft = 49;
 constexpr int largeButtonRight = 4;
 
@@ -51,12 +53,15 @@ void mdiMain::SetUpPanel() {
   }
   cmdTagDescriptionLarge = new QPushButton(QStringLiteral("large"), picRightWindows);
   cmdTagDescriptionLarge->setObjectName(QStringLiteral("cmdTagDescriptionLarge"));
-  cmdTagDescriptionLarge->setEnabled(false);
   // Three pixels between the description and its title, where other parts touch theirs.
   layRightWindows->insertSpacing(layRightWindows->indexOf(picTagDescription), 1);
-  titles_ = {{{1, lblWindowTitelOpenFiles, {trwOpenFiles}},
-              {2, lblWindowTitelStencilWindow, {trwStencils, trwSelfBuildedStencils}},
-              {4, lblWindowTitelTagDescription, {picTagDescription}}}};
+  titles_ = {
+      {{1, lblWindowTitelOpenFiles, {trwOpenFiles}},
+       {2, lblWindowTitelStencilWindow, {picStencilsTab, trwStencils, trwSelfBuildedStencils}},
+       {4, lblWindowTitelTagDescription, {picTagDescription}}}};
+  picStencilWindow->installEventFilter(this);
+  lblTagDescription->installEventFilter(this);
+  connect(picTagDescription, &DrawnTabStrip::Resized, this, &mdiMain::PlaceDescription);
   for (const PanelTitle &title : titles_) {
     title.label->installEventFilter(this);
     for (QObject *contents : title.contents) contents->installEventFilter(this);
@@ -83,7 +88,25 @@ bool mdiMain::eventFilter(QObject *watched, QEvent *event) {
       if (event->type() == QEvent::FocusOut) SetTitlebarColor(0);
     }
   }
+  if (watched == picStencilWindow && event->type() == QEvent::Resize) PlaceStencilWindow();
+  if (watched == lblTagDescription && event->type() == QEvent::MouseButtonRelease) {
+    picTagDescription->setFocus();
+  }
   return FormOf::eventFilter(watched, event);
+}
+
+// Both trees lie in one rectangle, two pixels over the lower edge of their tabs.
+void mdiMain::PlaceStencilWindow() {
+  const QRect room = picStencilWindow->rect();
+  picStencilsTab->setGeometry(0, 0, room.width(), stencilsTabHeight);
+  for (QWidget *tree : {trwStencils, trwSelfBuildedStencils}) {
+    tree->setGeometry(room.adjusted(0, stencilsTabHeight - stencilsTabOverlap, 0, 0));
+  }
+}
+
+void mdiMain::PlaceDescription() {
+  lblTagDescription->setGeometry(3, 1, picTagDescription->width() - 10,
+                                 picTagDescription->height() - 20);
 }
 
 void mdiMain::PlaceLargeButton() {

@@ -8,9 +8,9 @@
 #include "frame/mdiMain.h"
 #include "stencils/FillStencilTree.h"
 #include "stencils/LoadStencilTrees.h"
+#include "stencils/PanelFont.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
-#include "stencils/frmDatabaseIsLoading.h"
 #include "stencils/mStencilBuilder.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/DoEvents.h"
@@ -83,24 +83,15 @@ frmSelfStencilBuilder::frmSelfStencilBuilder() : DialogForm(Default<mdiMain>()) 
 void frmSelfStencilBuilder::Load() {
   const QPointer<frmSelfStencilBuilder> self(this);
   move(twips(15), twips(15));
-  mPublic::ReadPreferences();
-  if (const double size = PanelFontSize(mPublic::recPreferences); size > 0) {
-    for (QWidget *widget : std::initializer_list<QWidget *>{trwStencils, txtDescription, txtHeader,
-                                                            txthtmlSource, txtTextCaption}) {
-      QFont font = widget->font();
-      font.setPointSizeF(size);
-      widget->setFont(font);
-    }
+  for (QWidget *widget : std::initializer_list<QWidget *>{trwStencils, txtDescription, txtHeader,
+                                                          txthtmlSource, txtTextCaption}) {
+    SetPanelFont(*widget);
   }
-  auto *waiting = Default<frmDatabaseIsLoading>();
-  waiting->show();
-  waiting->repaint();
-  DoEvents();
-  if (!IsGone(self)) {
+  BehindWaitWindow([this, &self] {
+    if (IsGone(self)) return;
     const LockedPainting locked(trwStencils);
     if (ReloadBuilderTree() < 1) cboHirarchieSteps->addItem(QStringLiteral("none"));
-  }
-  mForms::UnloadDefaults({"frmDatabaseIsLoading"});
+  });
   if (!IsGone(self)) show();
 }
 
@@ -109,7 +100,7 @@ void frmSelfStencilBuilder::Load() {
 // How many records the file holds; less than 1, too, if the form has gone on the way.
 qint64 frmSelfStencilBuilder::ReloadBuilderTree() {
   const QPointer<frmSelfStencilBuilder> self(this);
-  FillStencilTree(*trwStencils, SelfBuiltPath(), QStringLiteral("Self Builded Stencils"), [&self] {
+  FillStencilTree(*trwStencils, SelfBuiltPath(), selfBuildedStencils, [&self] {
     DoEventsInLoop();
     return !IsGone(self);
   });

@@ -1,0 +1,28 @@
+#include "stencils/frmTagDescription.h"
+
+#include "frame/mdiMain.h"
+#include "stencils/PanelFont.h"
+#include "toolkit/WindowOnTop.h"
+
+frmTagDescription::frmTagDescription() : DialogForm(Default<mdiMain>()) {
+  setupUi(this);
+  connect(cmdClose, &QPushButton::clicked, this, [this] { Unload(*this); });
+}
+
+void frmTagDescription::Load() {
+  SetWindowOnTop(*this, true);
+}
+
+void frmTagDescription::Show(const std::optional<StencilRecord> &stencil) {
+  for (QWidget *text :
+       std::initializer_list<QWidget *>{lblTagDescription, rtfTagSource, lblTagName}) {
+    SetPanelFont(*text);
+  }
+  if (stencil) {
+    lblTagName->setText(u' ' + stencil->TextCaption.Trimmed());
+    rtfTagSource->setPlainText(stencil->HtmlSource.Trimmed());
+    lblTagDescription->setText(stencil->Description.Trimmed());
+  }
+  setWindowModality(Qt::ApplicationModal);
+  show();
+}
