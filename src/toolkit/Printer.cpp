@@ -10,7 +10,7 @@ namespace {
 
 constexpr int firstFontSize = 10;
 constexpr qsizetype zoneWidth = 14;  // columns
-constexpr int tabWidth = 8;          // columns
+constexpr qsizetype tabWidth = 8;    // columns
 
 QString WithoutEnd(const QString &text) {
   qsizetype size = text.size();
@@ -27,16 +27,24 @@ class PlatformPrinter : public Printer {
   }
 
   void Print(const QString &text, Position next) override {
-    page_ += text;
-    if (next == Position::NextLine) page_ += u'\n';
-    if (next != Position::NextZone) return;
-    const qsizetype column = page_.size() - 1 - page_.lastIndexOf(u'\n');
-    page_ += QString(zoneWidth - column % zoneWidth, u' ');
+    QString lines = text;
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    if (next == Position::NextLine) lines += u'\n';
+    for (const QChar letter : std::as_const(lines)) {
+      if (letter == u'\t') {
+        FillUpTo(tabWidth);
+        continue;
+      }
+      page_ += letter;
+      if (letter == u'\n') lineStart_ = page_.size();
+    }
+    if (next == Position::NextZone) FillUpTo(zoneWidth);
   }
 
   void NewPage() override {
     if (page_.isEmpty()) return;
     const QString text = std::exchange(page_, {});
+    lineStart_ = 0;
     failed_ = failed_ || !Begin() || !Draw(WithoutEnd(text));
   }
 
@@ -49,6 +57,11 @@ class PlatformPrinter : public Printer {
   }
 
  private:
+  // Blanks up to the next column that is a multiple of the width.
+  void FillUpTo(qsizetype width) {
+    page_ += QString(width - (page_.size() - lineStart_) % width, u' ');
+  }
+
   // The first page comes with the job.
   bool Begin() { return painter_.isActive() ? device_->newPage() : painter_.begin(device_.get()); }
 
@@ -59,13 +72,11 @@ class PlatformPrinter : public Printer {
   }
 
   // Line by line, so a long text costs no more memory than its longest line.
-  bool Draw(QString text) {
-    text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+  bool Draw(const QString &text) {
     const QSizeF page = device_->pageRect(QPrinter::DevicePixel).size();
     const QFont font(Font(), device_.get());
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTabStopDistance(QFontMetricsF(font).horizontalAdvance(u' ') * tabWidth);
     painter_.setPen(Qt::black);
     qreal y = 0;
     for (const QStringView line : QStringTokenizer(text, u'\n')) {
@@ -90,7 +101,8 @@ class PlatformPrinter : public Printer {
   const std::unique_ptr<QPrinter> device_;
   QPainter painter_;  // goes before its device
   int fontSize_ = firstFontSize;
-  QString page_;  // what stands on the page under way
+  QString page_;  // what stands on the page under way, with blanks for tabs
+  qsizetype lineStart_ = 0;
   bool failed_ = false;
 };
 

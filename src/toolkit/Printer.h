@@ -6,8 +6,8 @@
 class QPrinter;
 
 /// Where plain text goes to paper, or into a file that stands for it: black on white, in one
-/// typewriter font, without page numbers. Lines that are too long wrap, and a full page is followed
-/// by the next. White space at the end of a page makes no further page.
+/// typewriter font, with tabs of 8 columns, without page numbers. Lines that are too long wrap, and
+/// a full page is followed by the next. White space at the end of a page makes no further page.
 class Printer {
  public:
   /// Where the next text stands after a Print.
