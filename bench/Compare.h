@@ -48,6 +48,7 @@ void BenchOpening();
 void BenchTyping();
 void BenchColouring();
 void BenchMoves();
+void BenchStencils();
 void BenchTree();
 void BenchArrange();
 

@@ -50,6 +50,7 @@ int main(int argc, char **argv) {
   if (wanted("typing")) BenchTyping();
   if (wanted("colouring")) BenchColouring();
   if (wanted("moves")) BenchMoves();
+  if (wanted("stencils")) BenchStencils();
   if (wanted("tree")) BenchTree();
   if (wanted("arrange")) BenchArrange();
   mForms::DestroyAll();
