@@ -91,7 +91,10 @@ void mdiMain::ConnectMenus() {
   connect(mnuEditSearch, &QAction::triggered, this, [] { Default<frmSearch>()->show(); });
   connect(mnuFileExportSelfBuilded, &QAction::triggered, this,
           [] { Default<frmExport>()->show(); });
-  connect(mnuViewStencilsWindow, &QAction::triggered, this, [] { Default<frmStencils>()->show(); });
+  connect(mnuViewStencilsWindow, &QAction::triggered, this, [] {
+    // It fills its tree while it is made, and may have been closed over that.
+    if (auto *form = Default<frmStencils>(); !form->IsUnloaded()) form->show();
+  });
   // The editor shows itself, and may be gone again by then.
   connect(mnuViewSelfStencilsWindow, &QAction::triggered, this,
           [] { Default<frmSelfStencilBuilder>(); });
