@@ -2,7 +2,7 @@
 
 #include <QWindow>
 
-#include "frame/mPublic.h"
+#include "frame/PanelFont.h"
 #include "frame/mdiMain.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/EndProgram.h"
@@ -15,13 +15,7 @@ frmMemoPad::frmMemoPad() {
 }
 
 void frmMemoPad::Load() {
-  mPublic::ReadPreferences();
-  // A size that no font can have is refused without a word.
-  if (const double size = PanelFontSize(mPublic::recPreferences); size > 0) {
-    QFont font = txtMemoPad->font();
-    font.setPointSizeF(size);
-    txtMemoPad->setFont(font);
-  }
+  SetPanelFont(*txtMemoPad);
   winId();  // makes the window that the next line needs
   windowHandle()->setTransientParent(Default<mdiMain>()->windowHandle());
   SetWindowOnTop(*this, true);

@@ -8,6 +8,10 @@
 #include <QScreen>
 #include <utility>
 
+#include "assistants/FormatStrip.h"
+#include "assistants/Insertion.h"
+#include "assistants/frmColors.h"
+#include "assistants/frmSpecialCharacters.h"
 #include "base/mFolders.h"
 #include "base/mText.h"
 #include "documents/EditCommands.h"
@@ -64,6 +68,7 @@ mdiMain::mdiMain() {
   stencilPanel_ = new StencilPanel(this);
   ConnectMenus();
   ConnectStrips();
+  new FormatStrip(*this);
   SetUpFocusRound();
   cdgFileOpen.Filter = cdgFileSave.Filter = fileFilter;
   timloadStencils = new QTimer(this);
@@ -102,6 +107,9 @@ void mdiMain::ConnectMenus() {
   connect(mnuViewQuickBarEditor, &QAction::triggered, this,
           [] { Default<frmQuickbarEditor>()->show(); });
   connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
+  connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
+  connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
+          &OpenAssistant<frmSpecialCharacters>);
   connect(mnuWindowCascade, &QAction::triggered, this, &WindowCommands::Cascade);
   connect(mnuWindowTileHoricontally, &QAction::triggered, this, &WindowCommands::TileHoricontally);
   connect(mnuWindowTileVertitally, &QAction::triggered, this, &WindowCommands::TileVertitally);

@@ -9,6 +9,7 @@
 #include <QVector>
 #include <array>
 
+#include "toolkit/ColourDialog.h"
 #include "toolkit/CommonDialog.h"
 #include "toolkit/ToolStrip.h"
 #include "toolkit/mForms.h"
@@ -38,6 +39,7 @@ class mdiMain : public FormOf<QMainWindow>, public Ui::mdiMain {
   QTimer *timloadStencils;
   CommonDialog cdgFileOpen;
   CommonDialog cdgFileSave;
+  ColourDialog cdgColorWindow;
 
   /// The pictures of the trees: 1 and 3 are the root of the open files with and without documents,
   /// 2 a document group, 4 the root of a stencil tree (1-based).

@@ -70,7 +70,7 @@ void mdiMain::FillBars() {
   picFontColor->setObjectName(QStringLiteral("picFontColor"));
   picFontColor->setText(QStringLiteral("A"));
   picFontColor->setAccessibleName(QStringLiteral("Font colour"));
-  picFontColor->setEnabled(false);
+  picFontColor->setFocusPolicy(Qt::StrongFocus);
   cboFontStyle = new QComboBox(this);
   cboFontStyle->setObjectName(QStringLiteral("cboFontStyle"));
   cboFontStyle->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);

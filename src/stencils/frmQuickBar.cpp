@@ -2,7 +2,7 @@
 
 #include "documents/mEditors.h"
 #include "frame/mdiMain.h"
-#include "stencils/PanelFont.h"
+#include "frame/PanelFont.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
 #include "toolkit/WindowOnTop.h"

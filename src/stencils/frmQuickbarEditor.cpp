@@ -3,7 +3,7 @@
 #include <QFile>
 
 #include "frame/mdiMain.h"
-#include "stencils/PanelFont.h"
+#include "frame/PanelFont.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
 #include "toolkit/DoEvents.h"

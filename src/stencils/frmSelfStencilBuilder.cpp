@@ -8,7 +8,7 @@
 #include "frame/mdiMain.h"
 #include "stencils/FillStencilTree.h"
 #include "stencils/LoadStencilTrees.h"
-#include "stencils/PanelFont.h"
+#include "frame/PanelFont.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
 #include "stencils/mStencilBuilder.h"

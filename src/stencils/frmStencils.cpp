@@ -7,7 +7,7 @@
 #include "frame/mdiMain.h"
 #include "stencils/FillStencilTree.h"
 #include "stencils/LoadStencilTrees.h"
-#include "stencils/PanelFont.h"
+#include "frame/PanelFont.h"
 #include "stencils/StencilFiles.h"
 #include "stencils/frmStencilsSearch.h"
 #include "toolkit/DoEvents.h"

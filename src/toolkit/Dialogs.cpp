@@ -1,6 +1,7 @@
 #include "toolkit/Dialogs.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -39,6 +40,11 @@ class PlatformDialogs : public Dialogs {
 
   std::optional<QString> SaveFile(const FileRequest &request) override {
     return Choose(request, QFileDialog::AcceptSave, QFileDialog::AnyFile);
+  }
+
+  std::optional<QColor> Colour(const QColor &start) override {
+    const QColor chosen = QColorDialog::getColor(start, QApplication::activeWindow());
+    return chosen.isValid() ? std::optional(chosen) : std::nullopt;
   }
 
   std::optional<PrintChoice> Print(PrintRange range) override {

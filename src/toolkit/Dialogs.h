@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <memory>
 #include <optional>
@@ -38,6 +39,9 @@ class Dialogs {
   /// The path that the user chose, or nothing after Cancel.
   virtual std::optional<QString> OpenFile(const FileRequest &request) = 0;
   virtual std::optional<QString> SaveFile(const FileRequest &request) = 0;
+
+  /// The colour that the user chose, or nothing after Cancel.
+  virtual std::optional<QColor> Colour(const QColor &start) = 0;
 
   /// The print dialog with that range chosen at first; a selection is offered only if there is one.
   /// Nothing after Cancel.

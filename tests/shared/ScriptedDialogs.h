@@ -22,6 +22,7 @@ class ScriptedDialogs : public Dialogs {
 
   std::deque<Answer> answers;
   std::deque<std::optional<QString>> files;  ///< nothing is Cancel
+  std::deque<std::optional<QColor>> colours;
   std::deque<std::optional<PrintChoice>> prints;
   QList<PrintRange> printRanges;    ///< of every print dialog
   QStringList messages;             ///< "title|text|buttons" of every message box
@@ -38,6 +39,9 @@ class ScriptedDialogs : public Dialogs {
     return Next(files, std::optional<QString>());
   }
   std::optional<QString> SaveFile(const FileRequest &request) override { return OpenFile(request); }
+  std::optional<QColor> Colour(const QColor &) override {
+    return Next(colours, std::optional<QColor>());
+  }
   std::optional<PrintChoice> Print(PrintRange range) override {
     printRanges << range;
     return Next(prints, std::optional<PrintChoice>());
