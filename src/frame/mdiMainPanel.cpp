@@ -17,6 +17,7 @@ constexpr int sizingStep = twips(1000);
 constexpr int smallestArea = 200;  // pixels that the documents keep when the panel grows
 constexpr int stencilsTabHeight = 18;
 constexpr int stencilsTabOverlap = 2;
+constexpr int titleMargin = 3;  // above and below a title, for the button in its row
 constexpr int largeButtonLeft = 49;
 constexpr int largeButtonRight = 4;
 
@@ -64,6 +65,7 @@ void mdiMain::SetUpPanel() {
   connect(picTagDescription, &DrawnTabStrip::Resized, this, &mdiMain::PlaceDescription);
   for (const PanelTitle &title : titles_) {
     title.label->installEventFilter(this);
+    title.label->setContentsMargins(0, titleMargin, 0, titleMargin);
     for (QObject *contents : title.contents) contents->installEventFilter(this);
   }
 }
@@ -111,6 +113,7 @@ void mdiMain::PlaceDescription() {
 
 void mdiMain::PlaceLargeButton() {
   const QRect title = lblWindowTitelTagDescription->geometry();
+  cmdTagDescriptionLarge->setFont(lblWindowTitelTagDescription->font());
   cmdTagDescriptionLarge->setGeometry(picRightWindows->width() - largeButtonLeft, title.top() + 1,
                                       largeButtonLeft - largeButtonRight - 1, title.height() - 2);
 }

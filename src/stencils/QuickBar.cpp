@@ -9,6 +9,7 @@
 namespace QuickBar {
 
 Adding Add(const QString &quickBar, const QString &key) {
+  if (key.isEmpty()) return Adding::Nothing;
   const QuickBarFile file(quickBar);
   if (file.Count() == Margin) return Adding::Full;
   if (Keys(quickBar).contains(key)) return Adding::Present;

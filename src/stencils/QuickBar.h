@@ -9,10 +9,10 @@ namespace QuickBar {
 /// With exactly so many entries it takes no more.
 constexpr int Margin = 100;
 
-enum class Adding { Added, Present, Full };
+enum class Adding { Added, Present, Full, Nothing };
 
 /// Adds an entry behind the last one, unless it is there already or the bar is full. Any key will
-/// do, also a section's.
+/// do, also a section's, but an empty one adds nothing.
 Adding Add(const QString &quickBar, const QString &key);
 
 /// The keys of all entries, trimmed.

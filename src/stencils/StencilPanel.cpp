@@ -125,7 +125,7 @@ void StencilPanel::SelectNode(Tree tree) {
 }
 
 void StencilPanel::ShowStencilText(Mode mode, Tree tree) {
-  const QString key = StencilTag(TreeOf(tree).currentItem());
+  const QString key = StencilTag(TreeOf(tree).SelectedNode());
   const auto stencil = StencilFiles::FindStencil(PathOf(tree), key);
   QString text;
   if (stencil)
@@ -139,7 +139,7 @@ void StencilPanel::InsertStencilSource(Tree tree) {
   if (!editor) return;
   const QString path = PathOf(tree);
   if (tree == StandardTree && !ReadableOrTold(path)) return;
-  const auto stencil = StencilToInsert(tree, path, StencilTag(TreeOf(tree).currentItem()));
+  const auto stencil = StencilToInsert(tree, path, StencilTag(TreeOf(tree).SelectedNode()));
   RichTextBox &text = *editor->txthtml;
   // What is selected stays, behind the source.
   text.SetSelLength(0);
@@ -171,5 +171,5 @@ void StencilPanel::ShowLarge() {
     return;
   }
   auto *form = Default<frmTagDescription>();
-  form->Show(StencilFiles::FindStencil(PathOf(lastUsed_), StencilTag(tree.currentItem())));
+  form->Show(StencilFiles::FindStencil(PathOf(lastUsed_), StencilTag(tree.SelectedNode())));
 }

@@ -1,8 +1,8 @@
 #include "stencils/frmQuickBar.h"
 
 #include "documents/mEditors.h"
-#include "frame/mdiMain.h"
 #include "frame/PanelFont.h"
+#include "frame/mdiMain.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
 #include "toolkit/WindowOnTop.h"

@@ -2,8 +2,8 @@
 
 #include <QFile>
 
-#include "frame/mdiMain.h"
 #include "frame/PanelFont.h"
+#include "frame/mdiMain.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
 #include "toolkit/DoEvents.h"

@@ -4,11 +4,11 @@
 
 #include "base/mAnsi.h"
 #include "base/mText.h"
+#include "frame/PanelFont.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
 #include "stencils/FillStencilTree.h"
 #include "stencils/LoadStencilTrees.h"
-#include "frame/PanelFont.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
 #include "stencils/mStencilBuilder.h"
@@ -142,7 +142,7 @@ bool frmSelfStencilBuilder::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void frmSelfStencilBuilder::trwStencils_Click() {
-  const QTreeWidgetItem *node = trwStencils->currentItem();
+  const QTreeWidgetItem *node = trwStencils->SelectedNode();
   if (!node) return;
   const QByteArray key = mAnsi::ToAnsi(StencilTag(node));
   // Where several records have the key, the last one shows.
@@ -192,7 +192,7 @@ void frmSelfStencilBuilder::cmdSave_Click() {
     if (!IsGone(self)) txtHeader->setFocus();
     return;
   }
-  QString parentKey = StencilTag(trwStencils->currentItem());
+  QString parentKey = StencilTag(trwStencils->SelectedNode());
   if (parentKey.isEmpty()) parentKey = StencilTag(trwStencils->Node(1));
   if (parentKey.size() >= longestParentKey) {
     Tell(QStringLiteral("You have reached the maximum of 225 sections in the stencil tree!\r\n"
@@ -232,7 +232,7 @@ void frmSelfStencilBuilder::cmdOverwriteSelection_Click() {
     return;
   }
   EnableChanges(false);
-  const QByteArray key = mAnsi::ToAnsi(StencilTag(trwStencils->currentItem()));
+  const QByteArray key = mAnsi::ToAnsi(StencilTag(trwStencils->SelectedNode()));
   const StencilFile file(SelfBuiltPath());
   file.Scan(1, [&](qint64 n, const StencilRecord &record) {
     if (key.isEmpty() || record.Key.TrimmedBytes() != key) return true;
@@ -256,7 +256,7 @@ void frmSelfStencilBuilder::cmdDelete_Click() {
   EnableChanges(false);
   const QString path = SelfBuiltPath();
   // Without a selected node the key is empty, and all records begin with that.
-  mStencilBuilder::BlankSubtree(path, StencilTag(trwStencils->currentItem()));
+  mStencilBuilder::BlankSubtree(path, StencilTag(trwStencils->SelectedNode()));
   {
     const LockedPainting locked(trwStencils);
     mStencilBuilder::CompactSelfBuiltFiles(
@@ -274,7 +274,7 @@ void frmSelfStencilBuilder::cmdDelete_Click() {
 void frmSelfStencilBuilder::cmdAddtoQuick_Click() {
   const QPointer<frmSelfStencilBuilder> self(this);
   EnableChanges(false);
-  const QString key = StencilTag(trwStencils->currentItem());
+  const QString key = StencilTag(trwStencils->SelectedNode());
   const auto adding = QuickBar::Add(StencilFiles::ResolveDataFile(StencilFiles::QuickBar), key);
   if (adding == QuickBar::Adding::Full) {
     Tell(

@@ -4,10 +4,10 @@
 #include <QGuiApplication>
 #include <QPointer>
 
+#include "frame/PanelFont.h"
 #include "frame/mdiMain.h"
 #include "stencils/FillStencilTree.h"
 #include "stencils/LoadStencilTrees.h"
-#include "frame/PanelFont.h"
 #include "stencils/StencilFiles.h"
 #include "stencils/frmStencilsSearch.h"
 #include "toolkit/DoEvents.h"
@@ -38,14 +38,14 @@ void frmStencils::Unloaded() {
 // Both trees are filled from one file in one order, so a node's number is the link.
 void frmStencils::cmdMarker_Click() {
   KeyedTree &tree = *Default<mdiMain>()->trwStencils;
-  if (QTreeWidgetItem *node = tree.Node(trwStencils->Ordinal(trwStencils->currentItem()))) {
+  if (QTreeWidgetItem *node = tree.Node(trwStencils->Ordinal(trwStencils->SelectedNode()))) {
     tree.setCurrentItem(node);
   }
 }
 
 void frmStencils::cmdOk_Click() {
   const auto stencil = StencilFiles::FindStencil(StencilFiles::StandardPath(),
-                                                 StencilTag(trwStencils->currentItem()));
+                                                 StencilTag(trwStencils->SelectedNode()));
   QGuiApplication::clipboard()->clear();
   if (!stencil) return;
   // Other programs show a CR as a stray character, so the clipboard has lone LFs.

@@ -1,7 +1,7 @@
 #include "stencils/frmTagDescription.h"
 
-#include "frame/mdiMain.h"
 #include "frame/PanelFont.h"
+#include "frame/mdiMain.h"
 #include "toolkit/WindowOnTop.h"
 
 frmTagDescription::frmTagDescription() : DialogForm(Default<mdiMain>()) {

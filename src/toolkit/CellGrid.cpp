@@ -102,8 +102,6 @@ void CellGrid::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_End:
       return MoveTo(CellCount());
     case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
       return Click(marked_, Qt::LeftButton);
     default:
       QWidget::keyPressEvent(event);

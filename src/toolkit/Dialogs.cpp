@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -21,6 +22,7 @@ class PlatformDialogs : public Dialogs {
     box.setWindowTitle(title);
     box.setIcon(BoxIcon(icon));
     box.setStandardButtons(BoxButtons(buttons));
+    MakeRoomForTitle(box);
     switch (box.exec()) {
       case QMessageBox::Yes:
         return Answer::Yes;
@@ -64,6 +66,17 @@ class PlatformDialogs : public Dialogs {
   }
 
  private:
+  // A box is as wide as its text, which can be shorter than its title with the frame's buttons.
+  static void MakeRoomForTitle(QMessageBox &box) {
+    constexpr int frameButtons = 160;  // pixels
+    auto *layout = qobject_cast<QGridLayout *>(box.layout());
+    if (!layout) return;
+    const int title = QFontMetrics(QApplication::font("QMdiSubWindowTitleBar"))
+                          .horizontalAdvance(box.windowTitle());
+    layout->addItem(new QSpacerItem(title + frameButtons, 0), layout->rowCount(), 0, 1,
+                    layout->columnCount());
+  }
+
   static PrintRange ChosenRange(QPrintDialog::PrintRange range) {
     switch (range) {
       case QPrintDialog::AllPages:

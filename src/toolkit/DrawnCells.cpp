@@ -60,19 +60,21 @@ class Cell : public QAccessibleInterface, public QAccessibleActionInterface {
 class Strip : public QAccessibleWidget {
  public:
   Strip(QWidget *widget, DrawnCells *cells)
-      : QAccessibleWidget(widget, cells->Role()), source_(cells) {
-    for (int cell = 1; cell <= cells->CellCount(); ++cell) {
-      cells_.push_back(QAccessible::registerAccessibleInterface(new Cell(widget, cells, cell)));
-    }
-  }
+      : QAccessibleWidget(widget, cells->Role()), source_(cells) {}
   ~Strip() override {
     for (const QAccessible::Id cell : cells_) QAccessible::deleteAccessibleInterface(cell);
   }
 
-  int childCount() const override { return int(cells_.size()); }
+  // The widget may get its cells later than its name, with which it becomes known to assistive
+  // tools.
+  int childCount() const override { return source_->CellCount(); }
   QAccessibleInterface *child(int index) const override {
-    const bool exists = index >= 0 && index < childCount();
-    return exists ? QAccessible::accessibleInterface(cells_[index]) : nullptr;
+    if (index < 0 || index >= childCount()) return nullptr;
+    while (int(cells_.size()) <= index) {
+      auto *cell = new Cell(widget(), source_, int(cells_.size()) + 1);
+      cells_.push_back(QAccessible::registerAccessibleInterface(cell));
+    }
+    return QAccessible::accessibleInterface(cells_[index]);
   }
   int indexOfChild(const QAccessibleInterface *sought) const override {
     for (int i = 0; i < childCount(); ++i) {
@@ -92,13 +94,13 @@ class Strip : public QAccessibleWidget {
 
  private:
   DrawnCells *source_;
-  std::vector<QAccessible::Id> cells_;
+  mutable std::vector<QAccessible::Id> cells_;  // made when they are asked for
 };
 
 QAccessibleInterface *Make(const QString &, QObject *object) {
   auto *widget = qobject_cast<QWidget *>(object);
   auto *cells = dynamic_cast<DrawnCells *>(object);
-  return widget && cells && cells->CellCount() > 0 ? new Strip(widget, cells) : nullptr;
+  return widget && cells ? new Strip(widget, cells) : nullptr;
 }
 
 }  // namespace

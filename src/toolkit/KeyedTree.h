@@ -35,6 +35,8 @@ class KeyedTree : public QTreeWidget {
   int NodeCount() const { return int(nodes_.size()); }
   QTreeWidgetItem *Node(int ordinal) const;        ///< null if there is none
   int Ordinal(const QTreeWidgetItem *node) const;  ///< 0 for a node that isn't in the tree
+  /// Null if none is selected: a tree that gets the focus has a current node, but no selected one.
+  QTreeWidgetItem *SelectedNode() const { return selectedItems().value(0); }
   QTreeWidgetItem *NodeByKey(const QString &key) const { return byKey_.value(key); }
 
   /// Gives a node the picture of that number; a number without a picture takes it away. A null node

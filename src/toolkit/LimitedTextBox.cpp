@@ -41,16 +41,21 @@ LimitedTextBox::LimitedTextBox(QWidget *parent) : QPlainTextEdit(parent) {
 }
 
 QString LimitedTextBox::Text() const {
+  return document()->isModified() ? ShownText() : set_;
+}
+
+QString LimitedTextBox::ShownText() const {
   return WithLineEnds(document()->toRawText());
 }
 
 void LimitedTextBox::SetText(const QString &text) {
+  set_ = text;
   setPlainText(Fitting(text, maxLength_));
 }
 
 // What is selected gives way to what comes in.
 qsizetype LimitedTextBox::Room() const {
-  return maxLength_ - Text().size() + WithLineEnds(textCursor().selectedText()).size();
+  return maxLength_ - ShownText().size() + WithLineEnds(textCursor().selectedText()).size();
 }
 
 void LimitedTextBox::keyPressEvent(QKeyEvent *event) {

@@ -16,10 +16,12 @@ class LimitedTextBox : public QPlainTextEdit {
   int MaxLength() const { return maxLength_; }
   void SetMaxLength(int length) { maxLength_ = length; }
 
-  /// No-break spaces stay what they are, unlike in toPlainText.
+  /// What was set, to the letter, as long as nobody has edited it: what the box can't hold, such as
+  /// lone line feeds, comes back whole. No-break spaces stay what they are, unlike in toPlainText.
   QString Text() const;
 
-  /// Replaces the text, cut to the limit, and forgets the undo history. Any line ends will do.
+  /// Replaces the text, shown cut to the limit, and forgets the undo history. Any line ends will
+  /// do.
   void SetText(const QString &text);
 
  protected:
@@ -28,7 +30,9 @@ class LimitedTextBox : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData *source) override;
 
  private:
+  QString ShownText() const;
   qsizetype Room() const;
 
+  QString set_;  ///< what SetText got
   int maxLength_ = 32767;
 };

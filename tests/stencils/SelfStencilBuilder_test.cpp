@@ -129,6 +129,7 @@ TEST_F(SelfStencilBuilderTest, GenerateMakesAChildOfTheSelectedNode) {
 
   form->txtHeader->setText(QStringLiteral(" \u2192 top "));
   form->txthtmlSource->SetText(QStringLiteral("  <p>\n\u00A0\r</p>\r\n "));
+  form->txthtmlSource->document()->setModified(true);  // as if it were typed
   form->txtTextCaption->setText(Text("c"));
   form->txtDescription->SetText(Text("d"));
   form->cmdSave->click();
@@ -193,6 +194,21 @@ TEST_F(SelfStencilBuilderTest, OverwriteChangesTheSelectedRecordInPlace) {
   EXPECT_EQ(form->trwStencils->Node(3)->text(0), QString());
   EXPECT_EQ(Selected(), Text("aabb"));
   EXPECT_EQ(form->txtDescription->Text(), Text("new"));
+}
+
+TEST_F(SelfStencilBuilderTest, OverwriteKeepsWhatTheBoxesCantHoldUntilItIsEdited) {
+  const StencilRecord full = Stencil(Text("aaaa"), Text("header"), Text("x\n").repeated(750));
+  PutFile(path, Bytes(full));
+  form = Default<frmSelfStencilBuilder>();
+  const auto overwrite = [this] {
+    dialogs.answers = {Answer::Yes};
+    form->cmdOverwriteSelection->click();
+    return FileBytes(path);
+  };
+  Choose(2);
+  EXPECT_EQ(overwrite(), Bytes(full));
+  QTest::keyClick(form->txthtmlSource, Qt::Key_Delete);
+  EXPECT_EQ(overwrite().mid(100, 6), "\r\nx\r\nx");
 }
 
 TEST_F(SelfStencilBuilderTest, DeleteTakesWhatIsBelowAndSelectsTheNodeBefore) {
@@ -276,7 +292,7 @@ TEST_F(SelfStencilBuilderTest, ABoxTakesNoMoreThanItsFieldHolds) {
   form->txthtmlSource->SetText(QString(2000, u'y'));
   form->txtHeader->setText(QString(101, u'h'));
   form->txtTextCaption->setText(QString(101, u'c'));
-  EXPECT_EQ(form->txthtmlSource->Text().size(), 1500);
+  EXPECT_EQ(form->txthtmlSource->document()->characterCount() - 1, 1500);
   EXPECT_EQ((form->txtHeader->text() + form->txtTextCaption->text()).size(), 200);
 }
 

@@ -88,6 +88,7 @@ TEST_F(StencilFilesTest, TheQuickBarTakesAHundredAndEachOnce) {
   EXPECT_EQ(QuickBar::Add(bar, QStringLiteral("aaaa")), Adding::Present);
   for (int i = 2; i <= 100; ++i) EXPECT_EQ(QuickBar::Add(bar, QString::number(i)), Adding::Added);
   EXPECT_EQ(QuickBar::Add(bar, QStringLiteral("aaaa")), Adding::Full);
+  EXPECT_EQ(QuickBar::Add(bar, {}), Adding::Nothing);
   EXPECT_EQ(QuickBar::Keys(bar).size(), 100);
 }
 
