@@ -1,8 +1,6 @@
 #include <QTabBar>
 #include <set>
 
-#include "assistants/FramePicture.h"
-#include "assistants/FramesetLayouts.h"
 #include "assistants/frmInsertFrame.h"
 #include "shared/FormsTest.h"
 
@@ -99,6 +97,8 @@ TEST_F(InsertFrameTest, AttributesAreStoredWhenTheTabTurns) {
   EXPECT_EQ(form->txtMarginwidth->text(), QStringLiteral("2"));
   EXPECT_EQ(form->txtMarginheight->text(), QStringLiteral("7"));
   form->txtMarginwidth->setText(QStringLiteral("99"));
+  QTest::mouseClick(form->tabFrameAttributes, Qt::LeftButton, {},
+                    form->tabFrameAttributes->tabRect(0).center());
   EXPECT_EQ(Attributes(),
             QStringLiteral("scrolling=auto frameborder=0 marginwidth=2 marginheight=7 noresize>\n"
                            "scrolling=yes frameborder=0 marginwidth=-3 marginheight=0>"));
