@@ -11,6 +11,7 @@
 #include "assistants/FormatStrip.h"
 #include "assistants/Insertion.h"
 #include "assistants/frmColors.h"
+#include "assistants/frmInsertFrame.h"
 #include "assistants/frmSpecialCharacters.h"
 #include "base/mFolders.h"
 #include "base/mText.h"
@@ -107,6 +108,7 @@ void mdiMain::ConnectMenus() {
   connect(mnuViewQuickBarEditor, &QAction::triggered, this,
           [] { Default<frmQuickbarEditor>()->show(); });
   connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
+  connect(mnuAssistantsInsertFrameset, &QAction::triggered, this, &OpenAssistant<frmInsertFrame>);
   connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
   connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
           &OpenAssistant<frmSpecialCharacters>);
