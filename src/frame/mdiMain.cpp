@@ -10,7 +10,10 @@
 
 #include "assistants/FormatStrip.h"
 #include "assistants/Insertion.h"
+#include "assistants/ListText.h"
 #include "assistants/frmColors.h"
+#include "assistants/frmInsertList.h"
+#include "assistants/frmInsertTable.h"
 #include "assistants/frmSpecialCharacters.h"
 #include "base/mFolders.h"
 #include "base/mText.h"
@@ -107,6 +110,9 @@ void mdiMain::ConnectMenus() {
   connect(mnuViewQuickBarEditor, &QAction::triggered, this,
           [] { Default<frmQuickbarEditor>()->show(); });
   connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
+  connect(mnuAssistantsInsertList, &QAction::triggered, this,
+          [] { frmInsertList::Open(ListText::Unsorted); });
+  connect(mnuAssistantsInsertTable, &QAction::triggered, this, &OpenAssistant<frmInsertTable>);
   connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
   connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
           &OpenAssistant<frmSpecialCharacters>);
