@@ -5,7 +5,9 @@
 #include "assistants/ColourText.h"
 #include "assistants/FormatText.h"
 #include "assistants/Insertion.h"
+#include "assistants/ListText.h"
 #include "assistants/frmFontcolors.h"
+#include "assistants/frmInsertList.h"
 #include "frame/RedrawToolStripCells.h"
 #include "frame/mdiMain.h"
 
@@ -13,6 +15,7 @@ namespace {
 
 constexpr int fontButton = 1;
 constexpr int lastTextButton = 9;
+constexpr int sortedListButton = 14;
 
 // Whether the user has moved the focus, not a window that came to the front or a menu that closed.
 bool IsUsersTurn(const QFocusEvent &event) {
@@ -58,6 +61,10 @@ void FormatStrip::PickColour() {
 
 void FormatStrip::Press(int button) {
   if (!mPublic::AnyEditorOpen()) return;
+  if (button == sortedListButton) {
+    frmInsertList::Open(ListText::Sorted);
+    return;
+  }
   if (button > lastTextButton) {
     const std::array<QAction *, 8> assistants{
         main_.mnuAssistantsInsertHyperlink, main_.mnuAssistantsInsertImage,

@@ -10,8 +10,11 @@
 
 #include "assistants/FormatStrip.h"
 #include "assistants/Insertion.h"
+#include "assistants/ListText.h"
 #include "assistants/frmColors.h"
 #include "assistants/frmInsertFrame.h"
+#include "assistants/frmInsertList.h"
+#include "assistants/frmInsertTable.h"
 #include "assistants/frmSpecialCharacters.h"
 #include "base/mFolders.h"
 #include "base/mText.h"
@@ -109,6 +112,9 @@ void mdiMain::ConnectMenus() {
           [] { Default<frmQuickbarEditor>()->show(); });
   connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
   connect(mnuAssistantsInsertFrameset, &QAction::triggered, this, &OpenAssistant<frmInsertFrame>);
+  connect(mnuAssistantsInsertList, &QAction::triggered, this,
+          [] { frmInsertList::Open(ListText::Unsorted); });
+  connect(mnuAssistantsInsertTable, &QAction::triggered, this, &OpenAssistant<frmInsertTable>);
   connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
   connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
           &OpenAssistant<frmSpecialCharacters>);

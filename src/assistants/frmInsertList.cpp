@@ -1,0 +1,58 @@
+#include "assistants/frmInsertList.h"
+
+#include <algorithm>
+
+#include "assistants/Insertion.h"
+#include "assistants/ListText.h"
+#include "frame/mdiMain.h"
+
+namespace {
+
+template <class Options>
+int Chosen(const Options &options) {
+  const auto isChecked = [](const QRadioButton *option) { return option->isChecked(); };
+  return int(std::find_if(options.begin(), options.end(), isChecked) - options.begin());
+}
+
+}  // namespace
+
+frmInsertList::frmInsertList() : DialogForm(Default<mdiMain>()) {
+  setupUi(this);
+  optListType_ = {optListType_0, optListType_1, optListType_2, optListType_3, optListType_4};
+  optBulletType_ = {optBulletType_0, optBulletType_1, optBulletType_2};
+  optNumberingStyle_ = {optNumberingStyle_0, optNumberingStyle_1, optNumberingStyle_2,
+                        optNumberingStyle_3, optNumberingStyle_4};
+  const std::array<QWidget *, 5> details{fraBulletType, fraNumberingStyle, pagNone, pagNone,
+                                         pagNone};
+  for (size_t kind = 0; kind < details.size(); ++kind) {
+    connect(optListType_[kind], &QRadioButton::toggled, this,
+            [this, page = details[kind]](bool on) {
+              if (on) stkDetails->setCurrentWidget(page);
+            });
+  }
+  connect(cmdOk, &QPushButton::clicked, this, &frmInsertList::cmdOk_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(*this); });
+}
+
+void frmInsertList::Load() {
+  raise();
+}
+
+void frmInsertList::Open(int kind) {
+  if (!mPublic::AnyEditorOpen()) return;
+  auto *form = Default<frmInsertList>();
+  form->optListType_[size_t(kind)]->setChecked(true);
+  form->show();
+}
+
+void frmInsertList::cmdOk_Click() {
+  ListText list;
+  list.kind = Chosen(optListType_);
+  list.bulletType = Chosen(optBulletType_);
+  list.numberingStyle = Chosen(optNumberingStyle_);
+  list.compact = chkCompact->isChecked();
+  list.noOfItems = txtNoOfItems->text();
+  list.startValue = txtStartValue->text();
+  Insertion::ReplaceSelection(list.Build());
+  hide();
+}
