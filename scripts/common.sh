@@ -8,26 +8,46 @@ fail() {
   exit 1
 }
 
-# Installs the packages that are missing; quick and silent when none is.
-install_missing() {
-  local wanted missing
-  wanted=$(sed -e 's/#.*//' packaging/build-packages.txt | tr -s '[:space:]' '\n' | sed '/^$/d')
-  missing=$(comm -23 <(sort -u <<<"$wanted") \
+# Prints the packages of a list that are missing.
+missing_of() {
+  local wanted
+  wanted=$(sed -e 's/#.*//' "$1" | tr -s '[:space:]' '\n' | sed '/^$/d')
+  comm -23 <(sort -u <<<"$wanted") \
     <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' $wanted 2>/dev/null |
-      sed -n 's/^installed //p' | sort -u))
-  [ -z "$missing" ] && return
-  say "installing" $missing
+      sed -n 's/^installed //p' | sort -u)
+}
+
+# install PACKAGE ...: installs them as root or through sudo; what the tools print goes to a log.
+install() {
   local as_root=()
   if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || fail "need root or sudo to install" $missing
+    command -v sudo >/dev/null || return
     as_root=(sudo)
   fi
   mkdir -p build
   {
     "${as_root[@]}" apt-get update &&
       "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y --no-install-recommends $missing
-  } >build/install.log 2>&1 </dev/null || fail "installing packages, see build/install.log"
+        apt-get install -y --no-install-recommends "$@"
+  } >build/install.log 2>&1 </dev/null
+}
+
+# Installs the packages that are missing; quick and silent when none is.
+install_missing() {
+  local missing
+  missing=$(missing_of packaging/build-packages.txt)
+  [ -z "$missing" ] && return
+  say "installing" $missing
+  install $missing || fail "installing $missing (needs root or sudo), see build/install.log"
+}
+
+# The same with what tests can do without.
+install_optional() {
+  local missing
+  missing=$(missing_of packaging/optional-packages.txt)
+  [ -z "$missing" ] && return
+  say "installing" $missing
+  install $missing || say "going on without" $missing
 }
 
 # build PRESET: configures and builds; what the tools print goes to a log.

@@ -4,11 +4,12 @@
 
 #include "assistants/ColourText.h"
 #include "assistants/FormatText.h"
-#include "assistants/Insertion.h"
 #include "assistants/ListText.h"
 #include "assistants/frmFontcolors.h"
 #include "assistants/frmInsertList.h"
+#include "documents/Insertion.h"
 #include "frame/RedrawToolStripCells.h"
+#include "frame/mPublic.h"
 #include "frame/mdiMain.h"
 
 namespace {

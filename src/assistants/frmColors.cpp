@@ -1,9 +1,9 @@
 #include "assistants/frmColors.h"
 
 #include "assistants/ColourText.h"
-#include "assistants/Insertion.h"
 #include "assistants/ShowPalette.h"
 #include "base/mText.h"
+#include "documents/Insertion.h"
 #include "frame/mdiMain.h"
 
 frmColors::frmColors() : DialogForm(Default<mdiMain>()) {

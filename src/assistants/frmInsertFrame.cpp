@@ -5,8 +5,8 @@
 #include <limits>
 
 #include "assistants/FramesetLayouts.h"
-#include "assistants/Insertion.h"
 #include "base/mText.h"
+#include "documents/Insertion.h"
 #include "frame/mdiMain.h"
 
 FrameSourceTable frameSourceTable;

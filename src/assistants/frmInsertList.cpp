@@ -2,8 +2,9 @@
 
 #include <algorithm>
 
-#include "assistants/Insertion.h"
 #include "assistants/ListText.h"
+#include "documents/Insertion.h"
+#include "frame/mPublic.h"
 #include "frame/mdiMain.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include "assistants/frmInsertTable.h"
 
 #include "assistants/ColourText.h"
-#include "assistants/Insertion.h"
+#include "documents/Insertion.h"
 #include "frame/mdiMain.h"
 #include "toolkit/DoEvents.h"
 

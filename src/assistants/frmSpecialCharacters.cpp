@@ -2,10 +2,10 @@
 
 #include <QPainter>
 
-#include "assistants/Insertion.h"
 #include "assistants/SpecialCharacters.h"
 #include "base/mFolders.h"
 #include "base/mText.h"
+#include "documents/Insertion.h"
 #include "frame/mdiMain.h"
 
 namespace {

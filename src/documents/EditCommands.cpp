@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "documents/Insertion.h"
 #include "documents/mEditors.h"
 
 namespace EditCommands {
@@ -16,8 +17,7 @@ void CopyFrom(const RichTextBox &box) {
 }
 
 void Replace(RichTextBox &box, const QString &text) {
-  box.SetSelText(text);
-  box.ensureCursorVisible();
+  Insertion::ReplaceSelection(text);
   box.setFocus();
 }
 

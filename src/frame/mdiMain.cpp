@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "assistants/FormatStrip.h"
-#include "assistants/Insertion.h"
 #include "assistants/ListText.h"
+#include "assistants/OpenAssistant.h"
 #include "assistants/frmColors.h"
 #include "assistants/frmInsertFrame.h"
 #include "assistants/frmInsertList.h"

@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 
+#include "documents/Insertion.h"
 #include "documents/mEditors.h"
 #include "frame/RedrawToolStripCells.h"
 #include "frame/mdiMain.h"
@@ -140,12 +141,8 @@ void StencilPanel::InsertStencilSource(Tree tree) {
   const QString path = PathOf(tree);
   if (tree == StandardTree && !ReadableOrTold(path)) return;
   const auto stencil = StencilToInsert(tree, path, StencilTag(TreeOf(tree).SelectedNode()));
-  RichTextBox &text = *editor->txthtml;
-  // What is selected stays, behind the source.
-  text.SetSelLength(0);
-  if (stencil) text.SetSelText(stencil->HtmlSource.Trimmed());
-  text.ensureCursorVisible();
-  text.setFocus();
+  Insertion::PutInFront(stencil ? stencil->HtmlSource.Trimmed() : QString());
+  editor->txthtml->setFocus();
 }
 
 // ---- the tabs

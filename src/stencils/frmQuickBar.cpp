@@ -1,7 +1,8 @@
 #include "stencils/frmQuickBar.h"
 
-#include "documents/mEditors.h"
+#include "documents/Insertion.h"
 #include "frame/PanelFont.h"
+#include "frame/mPublic.h"
 #include "frame/mdiMain.h"
 #include "stencils/QuickBar.h"
 #include "stencils/StencilFiles.h"
@@ -30,10 +31,9 @@ void frmQuickBar::Open() {
 }
 
 void frmQuickBar::cmdPaste_Click() {
-  frmHTMLChild *editor = mEditors::Active();
   const int position = cboQuickbar->currentIndex();
-  if (!editor || position < 0) return;
+  if (!mPublic::AnyEditorOpen() || position < 0) return;
   const auto stencil = StencilFiles::FindStencil(
       StencilFiles::ResolveDataFile(StencilFiles::SelfBuilt), QuickBarEntries.value(position));
-  if (stencil) editor->txthtml->SetSelText(stencil->HtmlSource.Trimmed());
+  if (stencil) Insertion::ReplaceSelection(stencil->HtmlSource.Trimmed());
 }

@@ -2,17 +2,9 @@
 
 #include <QString>
 
-#include "frame/mPublic.h"
-#include "toolkit/mForms.h"
-
-/// Shows an assistant's dialog, if a document is open to write into.
-template <class F>
-void OpenAssistant() {
-  if (mPublic::AnyEditorOpen()) Default<F>()->show();
-}
-
-/// How the assistants put their text into the active document. Each is one undo step, marks nothing
-/// as changed and colours nothing. Without an open document nothing happens.
+/// How a text comes into the active document other than by typing: from assistants, stencils, the
+/// quick bar and the clipboard. Each is one undo step, marks nothing as changed, colours nothing
+/// and brings the caret into view. Without an open document nothing happens.
 namespace Insertion {
 
 /// The caret stands behind the text.

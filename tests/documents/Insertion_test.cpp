@@ -1,4 +1,4 @@
-#include "assistants/Insertion.h"
+#include "documents/Insertion.h"
 
 #include "shared/FormsTest.h"
 
