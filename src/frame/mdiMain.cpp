@@ -13,8 +13,12 @@
 #include "assistants/OpenAssistant.h"
 #include "assistants/frmColors.h"
 #include "assistants/frmInsertFrame.h"
+#include "assistants/frmInsertHorRule.h"
+#include "assistants/frmInsertImage.h"
+#include "assistants/frmInsertLink.h"
 #include "assistants/frmInsertList.h"
 #include "assistants/frmInsertTable.h"
+#include "assistants/frmMetaTags.h"
 #include "assistants/frmSpecialCharacters.h"
 #include "base/mFolders.h"
 #include "base/mText.h"
@@ -111,10 +115,14 @@ void mdiMain::ConnectMenus() {
   connect(mnuViewQuickBarEditor, &QAction::triggered, this,
           [] { Default<frmQuickbarEditor>()->show(); });
   connect(mnuViewMemoPad, &QAction::triggered, this, &ShowMemoPad);
-  connect(mnuAssistantsInsertFrameset, &QAction::triggered, this, &OpenAssistant<frmInsertFrame>);
+  connect(mnuAssistantsInsertHyperlink, &QAction::triggered, this, &OpenAssistant<frmInsertLink>);
+  connect(mnuAssistantsInsertImage, &QAction::triggered, this, &OpenAssistant<frmInsertImage>);
+  connect(mnuAssistantsInsertHorRule, &QAction::triggered, this, &OpenAssistant<frmInsertHorRule>);
   connect(mnuAssistantsInsertList, &QAction::triggered, this,
           [] { frmInsertList::Open(ListText::Unsorted); });
   connect(mnuAssistantsInsertTable, &QAction::triggered, this, &OpenAssistant<frmInsertTable>);
+  connect(mnuAssistantsInsertFrameset, &QAction::triggered, this, &OpenAssistant<frmInsertFrame>);
+  connect(mnuAssistantsInsertMetaTag, &QAction::triggered, this, &OpenAssistant<frmMetaTags>);
   connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
   connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
           &OpenAssistant<frmSpecialCharacters>);
