@@ -51,6 +51,7 @@ void BenchMoves();
 void BenchStencils();
 void BenchTree();
 void BenchArrange();
+void BenchAssistants();
 
 int PlayStart();
 int PlayOpening(const QString &file);

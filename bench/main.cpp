@@ -53,6 +53,7 @@ int main(int argc, char **argv) {
   if (wanted("stencils")) BenchStencils();
   if (wanted("tree")) BenchTree();
   if (wanted("arrange")) BenchArrange();
+  if (wanted("assistants")) BenchAssistants();
   mForms::DestroyAll();
   return 0;
 }

@@ -10,7 +10,15 @@ namespace {
 constexpr int largestNumber = 200;
 
 void FillWithNumbers(QComboBox &list) {
-  for (int number = 1; number <= largestNumber; ++number) list.addItem(QString::number(number));
+  static const QStringList numbers = [] {
+    QStringList texts;
+    for (int number = 1; number <= largestNumber; ++number) texts << QString::number(number);
+    return texts;
+  }();
+  // Measuring each of them would make up half of the time that the dialog takes to open.
+  list.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list.setMinimumContentsLength(int(numbers.constLast().size()));
+  list.addItems(numbers);
   list.setCurrentIndex(1);
 }
 

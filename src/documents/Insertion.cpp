@@ -15,7 +15,7 @@ void Insert(Write write) {
 }
 
 void InsertInFront(RichTextBox &box, const QString &text) {
-  box.SetSelLength(0);
+  if (box.SelLength() > 0) box.SetSelLength(0);
   box.SetSelText(text);
 }
 
@@ -33,21 +33,25 @@ void Insertion::PutInFrontAndPass(const QString &text) {
   Insert([&](RichTextBox &box) {
     const qsizetype selected = box.SelLength();
     InsertInFront(box, text);
-    box.SetSelStart(box.SelStart() + selected);
+    if (selected > 0) box.SetSelStart(box.SelStart() + selected);
   });
 }
 
 void Insertion::Surround(const QString &opening, const QString &closing) {
   Insert([&](RichTextBox &box) {
+    const qsizetype start = box.SelStart();
     const qsizetype selected = box.SelLength();
-    QTextCursor oneStep = box.textCursor();
-    oneStep.beginEditBlock();
-    InsertInFront(box, opening);
-    const qsizetype between = box.SelStart();
-    box.SetSelStart(between + selected);
-    box.SetSelText(closing);
-    oneStep.endEditBlock();
-    if (selected == 0) box.SetSelStart(between);
+    if (selected == 0) {
+      box.SetSelText(opening + closing);
+      if (box.SelStart() > start) box.SetSelStart(box.SelStart() - closing.size());
+    } else {
+      QTextCursor oneStep = box.textCursor();
+      oneStep.beginEditBlock();
+      InsertInFront(box, opening);
+      box.SetSelStart(box.SelStart() + selected);
+      box.SetSelText(closing);
+      oneStep.endEditBlock();
+    }
     box.setFocus();
   });
 }

@@ -18,7 +18,8 @@ void PutInFront(const QString &text);
 void PutInFrontAndPass(const QString &text);
 
 /// Puts the texts around the selection, with the caret behind the closing one; without a selection
-/// the caret stands between them. The document has the focus then.
+/// the caret stands between them. closing holds nothing that the code page lacks. The document has
+/// the focus then.
 void Surround(const QString &opening, const QString &closing);
 
 }  // namespace Insertion

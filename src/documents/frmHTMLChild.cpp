@@ -61,6 +61,7 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   rtfLineNumber = new RichTextBox(client_);
   SetUpBox(*rtfLineNumber, "rtfLineNumber", lineNumberMargin);
   rtfLineNumber->setReadOnly(true);
+  rtfLineNumber->setUndoRedoEnabled(false);
   rtfLineNumber->setFocusPolicy(Qt::NoFocus);
   rtfLineNumber->setTextInteractionFlags(Qt::NoTextInteraction);
   rtfLineNumber->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
