@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QFontDatabase>
 #include <QMimeData>
 #include <QScreen>
 #include <utility>
@@ -41,6 +40,7 @@
 #include "stencils/frmSelfStencilBuilder.h"
 #include "stencils/frmStencils.h"
 #include "toolkit/DoEvents.h"
+#include "toolkit/FontNames.h"
 
 namespace {
 
@@ -159,7 +159,7 @@ void mdiMain::Load() {
                          QStringLiteral("14 pt"), QStringLiteral("18 pt"), QStringLiteral("24 pt"),
                          QStringLiteral("36 pt")});
   cboFontsize->setCurrentIndex(2);
-  cboFontStyle->addItems(QFontDatabase::families());
+  cboFontStyle->addItems(FontNames());
   cboFontStyle->setCurrentIndex(0);
   AddTreeRoots();
   SetTitlebarColor(0);
