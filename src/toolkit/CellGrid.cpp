@@ -102,7 +102,8 @@ void CellGrid::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_End:
       return MoveTo(CellCount());
     case Qt::Key_Space:
-      return Click(marked_, Qt::LeftButton);
+      return Click(marked_,
+                   event->modifiers() & Qt::ShiftModifier ? Qt::RightButton : Qt::LeftButton);
     default:
       QWidget::keyPressEvent(event);
   }

@@ -8,8 +8,8 @@
 
 /// Rows of equal cells that the caller paints, numbered from 1, row by row. A marker follows the
 /// pointer. With the keyboard the arrows move it; Space does what the left mouse button does there,
-/// the menu key what the right one does, and Return is left to the dialog. To assistive tools each
-/// cell is a push button.
+/// Shift+Space and the menu key what the right one does, and Return is left to the dialog. To
+/// assistive tools each cell is a push button.
 class CellGrid : public QWidget, public DrawnCells {
   Q_OBJECT
 

@@ -112,7 +112,8 @@ TEST_F(ColoursTest, TheGridWorksWithTheKeyboardAndIsReadAloud) {
   EXPECT_EQ(form->txthtmlname->text(), QStringLiteral("&gt;"));
   QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
   QCoreApplication::sendEvent(grid, &menuKey);
-  EXPECT_EQ(form->txtCodeContainer->text(), QStringLiteral("&gt;"));
+  QTest::keyClick(grid, Qt::Key_Space, Qt::ShiftModifier);
+  EXPECT_EQ(form->txtCodeContainer->text(), QStringLiteral("&gt;&gt;"));
   QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(grid);
   ASSERT_EQ(spoken->childCount(), 235);
   EXPECT_EQ(spoken->child(2)->text(QAccessible::Name), QStringLiteral("&"));
