@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "assistants/ListText.h"
+#include "assistants/OpenAssistant.h"
 #include "documents/Insertion.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
@@ -43,7 +44,7 @@ void frmInsertList::Open(int kind) {
   if (!mPublic::AnyEditorOpen()) return;
   auto *form = Default<frmInsertList>();
   form->optListType_[size_t(kind)]->setChecked(true);
-  form->show();
+  ShowFromStart(*form);
 }
 
 void frmInsertList::cmdOk_Click() {

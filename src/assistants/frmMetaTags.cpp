@@ -23,6 +23,17 @@ frmMetaTags::frmMetaTags() : DialogForm(Default<mdiMain>()) {
   txtMetaTags.back() = boxes_[cookieRow].second;
   for (size_t i = 0; i < txtMetaTags.size(); ++i)
     txtMetaTags[i]->setObjectName(QStringLiteral("txtMetaTags_%1").arg(i));
+  // The rows come before the buttons, which were made first.
+  QWidget *last = nullptr;
+  for (int row = 0; row < int(chkMetaTags.size()); ++row) {
+    const auto [first, second] = boxes_[row];
+    for (QWidget *control : std::initializer_list<QWidget *>{chkMetaTags[row], first, second}) {
+      if (last && control) setTabOrder(last, control);
+      if (control) last = control;
+    }
+  }
+  setTabOrder(last, cmdOk);
+  setTabOrder(cmdOk, cmdCancel);
   // A box that isn't a row's own can be filled in at any time.
   for (size_t i = 0; i < chkMetaTags.size(); ++i) {
     txtMetaTags[i]->setEnabled(false);

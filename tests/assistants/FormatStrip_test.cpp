@@ -39,4 +39,37 @@ TEST_F(FormatStripTest, ButtonsWriteAroundTheSelection) {
   }
 }
 
+// The names of a dialog's controls that the Tab key reaches, in order.
+QStringList TabOrder(const QWidget &dialog) {
+  QStringList names;
+  for (QWidget *control = dialog.nextInFocusChain(); control != &dialog;
+       control = control->nextInFocusChain()) {
+    if ((control->focusPolicy() & Qt::TabFocus) && control->isEnabled() && control->isVisible()) {
+      names << control->objectName();
+    }
+  }
+  return names;
+}
+
+TEST_F(FormatStripTest, EachAssistantStartsAtItsFirstControlAndEndsWithItsButtons) {
+  Open(QStringLiteral("page.html"), "");
+  for (int button = 10; button <= 17; ++button) {
+    for (int time = 1; time <= 2; ++time) {
+      main->picButtons->Press(button);
+      DoEvents();
+      QWidget *dialog = QApplication::activeModalWidget();
+      ASSERT_NE(dialog, nullptr) << button;
+      const QStringList order = TabOrder(*dialog);
+      ASSERT_NE(dialog->focusWidget(), nullptr) << qPrintable(dialog->objectName());
+      EXPECT_EQ(dialog->focusWidget()->objectName(), order.first());
+      EXPECT_EQ(order.mid(order.size() - 2).join(u' '), QStringLiteral("cmdOk cmdCancel"))
+          << qPrintable(dialog->objectName());
+      auto *ok = dialog->findChild<QPushButton *>(QStringLiteral("cmdOk"));
+      ok->setFocus();
+      ok->click();
+      DoEvents();
+    }
+  }
+}
+
 }  // namespace
