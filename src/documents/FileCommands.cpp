@@ -50,6 +50,15 @@ void Print(const frmHTMLChild &editor, const QString &path, const QByteArray &pr
 
 }  // namespace
 
+bool PrintUnderNewName(frmHTMLChild &document, const QByteArray &printed) {
+  const QPointer<frmHTMLChild> editor = &document;
+  if (!NameByDialog(editor)) return false;
+  const QString path = Default<mdiMain>()->cdgFileSave.FileName;
+  Print(*editor, path, printed);
+  editor->SetCaption(path);
+  return true;
+}
+
 void NewFile() {
   Default<frmNewEditorWindow>()->show();
 }
@@ -75,11 +84,8 @@ void Save() {
   const QByteArray printed = PrintedText(editor->txthtml->Text());
   if (!DocumentName::IsUnsaved(editor->Caption())) {
     Print(*editor, editor->Caption(), printed);
-  } else {
-    if (!NameByDialog(editor)) return;
-    const QString path = Default<mdiMain>()->cdgFileSave.FileName;
-    Print(*editor, path, printed);
-    editor->SetCaption(path);
+  } else if (!PrintUnderNewName(*editor, printed)) {
+    return;
   }
   RebuildOpenFilesTree();
 }

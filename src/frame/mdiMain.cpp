@@ -32,6 +32,7 @@
 #include "frame/FocusRound.h"
 #include "frame/WindowCommands.h"
 #include "frame/mPublic.h"
+#include "preview/PreviewCommands.h"
 #include "stencils/LoadStencilTrees.h"
 #include "stencils/StencilPanel.h"
 #include "stencils/frmExport.h"
@@ -95,6 +96,7 @@ void mdiMain::ConnectMenus() {
   connect(mnuFileSave, &QAction::triggered, this, &FileCommands::Save);
   connect(mnuFileSaveAs, &QAction::triggered, this, &FileCommands::SaveAs);
   connect(mnuFileSaveAll, &QAction::triggered, this, &FileCommands::SaveAll);
+  connect(mnuFileShowPreview, &QAction::triggered, this, &ShowPreview);
   connect(mnuFilePrint, &QAction::triggered, this, &PrintCommand);
   connect(mnuFileQuit, &QAction::triggered, this, &mdiMain::mnuFileQuit_Click);
   connect(mnuEditCut, &QAction::triggered, this, &EditCommands::Cut);
@@ -134,6 +136,7 @@ void mdiMain::ConnectMenus() {
   connect(mnuWindowNormalSize, &QAction::triggered, this, &WindowCommands::NormalSize);
   connect(mnuWindowMaximized, &QAction::triggered, this, &WindowCommands::Maximized);
   connect(mnuWindowAllMinimized, &QAction::triggered, this, &WindowCommands::AllMinimized);
+  connect(mnuInfoHelpManual, &QAction::triggered, this, &HelpManual);
 }
 
 void mdiMain::SetUpFocusRound() {
