@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -41,15 +42,16 @@ bool KeepOwnerAndMode([[maybe_unused]] const QString &path, [[maybe_unused]] int
 #endif
 }
 
-bool WriteInPlace(const QString &path, QByteArrayView bytes) {
+bool WriteInPlace(const QString &path, QByteArrayView bytes, QString &error) {
   QFile file(path);
-  return file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly) &&
-         file.write(bytes.data(), bytes.size()) == bytes.size() && file.flush();
+  const bool written = file.open(QIODevice::WriteOnly | QIODevice::ExistingOnly) &&
+                       file.write(bytes.data(), bytes.size()) == bytes.size() && file.flush();
+  if (!written) error = file.errorString();
+  return written;
 }
 
-}  // namespace
-
-bool WriteWholeFile(const QString &path, QByteArrayView bytes) {
+bool Write(const QString &path, QByteArrayView bytes, QString &error) {
+  error = qt_error_string(EINVAL);
   if (path.isEmpty()) return false;
   const QFileInfo old(path);
   // A device or pipe would be replaced by a file, or opening it would wait for its other end.
@@ -57,17 +59,28 @@ bool WriteWholeFile(const QString &path, QByteArrayView bytes) {
 
   QSaveFile file(path);
   file.setDirectWriteFallback(true);
-  if (!file.open(QIODevice::WriteOnly)) return false;
+  if (!file.open(QIODevice::WriteOnly)) {
+    error = file.errorString();
+    return false;
+  }
   if (!KeepOwnerAndMode(path, file.handle())) {
     file.cancelWriting();
-    return WriteInPlace(path, bytes);
+    return WriteInPlace(path, bytes, error);
   }
   // Asked for here, since commit reports success after a short write.
   if (file.write(bytes.data(), bytes.size()) != bytes.size() || !file.flush()) {
+    error = file.errorString();
     file.cancelWriting();
     return false;
   }
   // All bytes found room on the disk; what still fails is putting the file into the old one's place
   // (a sticky folder, a mount point, a name too long for the one that it is renamed from).
-  return file.commit() || WriteInPlace(path, bytes);
+  return file.commit() || WriteInPlace(path, bytes, error);
+}
+
+}  // namespace
+
+bool WriteWholeFile(const QString &path, QByteArrayView bytes, QString *error) {
+  QString told;
+  return Write(path, bytes, error ? *error : told);
 }

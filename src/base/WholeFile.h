@@ -9,5 +9,6 @@
 /// without write permission, a name too long for a companion), it is written in place. Makes the
 /// file if there is none. Folders, devices and pipes are refused. True only if every byte was
 /// taken; on false an old file is as it was (but for a write in place that broke off in the
-/// middle).
-bool WriteWholeFile(const QString &path, QByteArrayView bytes);
+/// middle), and error tells
+/// why in the system's own words.
+bool WriteWholeFile(const QString &path, QByteArrayView bytes, QString *error = nullptr);

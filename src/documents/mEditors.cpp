@@ -20,16 +20,19 @@ bool takingAway = false;
 
 constexpr int longestIndent = 100;  // blanks
 
-void SetFonts(frmHTMLChild &editor) {
-  mPublic::ReadPreferences();
-  const int size = mPublic::recPreferences.EditorFontSize;
-  const QString name = mPublic::recPreferences.EditorFontName.Trimmed();
-  const int indent = mPublic::recPreferences.TabulatorCount;
+void SetFonts(frmHTMLChild &editor, const Preferences &record) {
+  const int size = record.EditorFontSize;
+  const QString name = record.EditorFontName.Trimmed();
+  const int indent = record.TabulatorCount;
   if (indent > 0) editor.txthtml->SetTabWidth(std::min(indent, longestIndent));
   for (RichTextBox *box : {editor.txthtml, editor.rtfLineNumber}) {
     QFont font = box->font();
     if (size > 0) font.setPointSize(size);
     if (!name.isEmpty()) font.setFamily(name);
+    font.setBold(false);
+    font.setItalic(false);
+    font.setUnderline(false);
+    font.setStrikeOut(false);
     box->setFont(font);
   }
 }
@@ -66,7 +69,8 @@ frmHTMLChild *OpenWindow() {
   aEditorWindow[slot] = editor;
   editor->Tag = QString::number(slot);
   editor->Load();
-  SetFonts(*editor);
+  mPublic::ReadPreferences();
+  SetFonts(*editor, mPublic::recPreferences);
 
   QMdiArea &area = Area();
   area.addSubWindow(editor);
@@ -81,6 +85,17 @@ frmHTMLChild *OpenWindow() {
     editor->resize(editor->width() + 100, editor->height());
   }
   return gone() ? nullptr : editor.data();
+}
+
+void UseFont(const Preferences &record) {
+  mPublic::NextOpenEditor(-1);
+  for (int left = mPublic::CountOpenEditors(); left > 0; --left) {
+    frmHTMLChild *editor = aEditorWindow[mPublic::NextOpenEditor(0)];
+    if (!editor) continue;
+    SetFonts(*editor, record);
+    editor->txthtml->SetSelStart(editor->txthtml->TextLength());
+    editor->SyncLineNumbers(frmHTMLChild::AllLineNumbers);
+  }
 }
 
 void BringToTop(frmHTMLChild &editor) {

@@ -24,6 +24,10 @@ frmHTMLChild *Active();
 /// opening. Whoever calls it puts the text in and gives it its caption.
 frmHTMLChild *OpenWindow();
 
+/// Gives all open documents the font of that record, bold and the like off; their colours and undo
+/// histories stay, and their carets stand at the end of the text.
+void UseFont(const Preferences &record);
+
 /// Brings a window in front of the others and makes it the active one; a minimised one stays so.
 void BringToTop(frmHTMLChild &editor);
 

@@ -29,8 +29,8 @@ bool ReadPreferencesFile(const QString &path, Preferences &record) {
   return RecordFile<Preferences>(path).Get(1, record);
 }
 
-bool WritePreferencesFile(const QString &path, const Preferences &record) {
-  return WriteWholeFile(path, {reinterpret_cast<const char *>(&record), sizeof record});
+bool WritePreferencesFile(const QString &path, const Preferences &record, QString *error) {
+  return WriteWholeFile(path, {reinterpret_cast<const char *>(&record), sizeof record}, error);
 }
 
 double PanelFontSize(const Preferences &record) {

@@ -68,8 +68,9 @@ Preferences StandardPreferences();
 /// missing rest of the record reads as NUL.
 bool ReadPreferencesFile(const QString &path, Preferences &record);
 
-/// Writes the record as the whole file. False, with the old file untouched, if that fails.
-bool WritePreferencesFile(const QString &path, const Preferences &record);
+/// Writes the record as the whole file. False, with the old file untouched and the reason in error,
+/// if that fails.
+bool WritePreferencesFile(const QString &path, const Preferences &record, QString *error = nullptr);
 
 /// Font size in points of trees and panels: 8 unless the record asks for a size of its own, else 8,
 /// 10, 12, 14 for the indices 0 to 3 and 0 for any other.

@@ -12,18 +12,19 @@ bool bAppClosing = false;
 Preferences recPreferences{};
 std::array<qint16, 4> aFormatColor{};
 std::array<quint8, 4> TagHighlight{};
+int iLanguage = 1;
 QString strAppTitle;
 
-namespace {
-const QString preferencesName = QStringLiteral("preferences.dat");
+QString PreferencesPath() {
+  return mFolders::InProgramFolder(QStringLiteral("preferences.dat"));
 }
 
 void ReadPreferences() {
-  ReadPreferencesFile(mFolders::InProgramFolder(preferencesName), recPreferences);
+  ReadPreferencesFile(PreferencesPath(), recPreferences);
 }
 
-bool WritePreferences() {
-  return WritePreferencesFile(mFolders::InProgramFolder(preferencesName), recPreferences);
+bool WritePreferences(QString *error) {
+  return WritePreferencesFile(PreferencesPath(), recPreferences, error);
 }
 
 bool AnyTagHighlight() {

@@ -40,15 +40,22 @@ extern std::array<quint8, 4> TagHighlight;
 /// Whether any of the three is on.
 bool AnyTagHighlight();
 
+/// The language of the program's texts, kept for a translation: 1 English, 2 German. No text
+/// depends on it yet.
+extern int iLanguage;
+
 /// Shown by the about box.
 extern QString strAppTitle;
+
+/// The path of preferences.dat.
+QString PreferencesPath();
 
 /// Reads preferences.dat of the program folder into recPreferences; keeps the old values if it
 /// can't.
 void ReadPreferences();
 
-/// Writes recPreferences. False, with the old file whole, if that failed.
-bool WritePreferences();
+/// Writes recPreferences. False, with the old file whole and the reason in error, if that failed.
+bool WritePreferences(QString *error = nullptr);
 
 bool AnyEditorOpen();
 int CountOpenEditors();

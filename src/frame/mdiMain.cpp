@@ -31,6 +31,8 @@
 #include "frame/ApplyPreferences.h"
 #include "frame/FocusRound.h"
 #include "frame/WindowCommands.h"
+#include "frame/frmInfo.h"
+#include "frame/frmPreferences.h"
 #include "frame/mPublic.h"
 #include "preview/PreviewCommands.h"
 #include "stencils/LoadStencilTrees.h"
@@ -128,6 +130,9 @@ void mdiMain::ConnectMenus() {
   connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
   connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
           &OpenAssistant<frmSpecialCharacters>);
+  connect(mnuOptionsPreferences, &QAction::triggered, this,
+          [] { Default<frmPreferences>()->show(); });
+  connect(mnuInfoAbout, &QAction::triggered, this, [] { Default<frmInfo>()->show(); });
   connect(mnuWindowCascade, &QAction::triggered, this, &WindowCommands::Cascade);
   connect(mnuWindowTileHoricontally, &QAction::triggered, this, &WindowCommands::TileHoricontally);
   connect(mnuWindowTileVertitally, &QAction::triggered, this, &WindowCommands::TileVertitally);

@@ -5,13 +5,13 @@
 #include "toolkit/Dialogs.h"
 
 bool CommonDialog::ShowOpen() {
-  const auto chosen = Dialogs::Current().OpenFile({Filter, FileName, MayBeNew});
+  const auto chosen = Dialogs::Current().OpenFile({Filter, FileName, MayBeNew, DialogTitle});
   if (chosen) FileName = *chosen;
   return chosen.has_value();
 }
 
 bool CommonDialog::ShowSave() {
-  const auto chosen = Dialogs::Current().SaveFile({Filter, FileName});
+  const auto chosen = Dialogs::Current().SaveFile({Filter, FileName, false, DialogTitle});
   if (chosen) FileName = *chosen;
   return chosen.has_value();
 }

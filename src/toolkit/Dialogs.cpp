@@ -94,6 +94,8 @@ class PlatformDialogs : public Dialogs {
         return QMessageBox::Information;
       case Icon::Question:
         return QMessageBox::Question;
+      case Icon::Exclamation:
+        return QMessageBox::Warning;
       case Icon::Critical:
         return QMessageBox::Critical;
       default:
@@ -132,12 +134,13 @@ class PlatformDialogs : public Dialogs {
     dialog.setFileMode(files);
     // The desktops' own open dialogs refuse a name that doesn't exist.
     dialog.setOption(QFileDialog::DontUseNativeDialog, request.mayBeNew);
+    if (!request.title.isEmpty()) dialog.setWindowTitle(request.title);
     dialog.setNameFilters(NameFilters(request.filter));
     // The dialogs of a session share their folder: the next one begins where the last one ended.
     if (!lastFolder_.isEmpty()) dialog.setDirectory(lastFolder_);
     if (!request.fileName.isEmpty()) {
       const QFileInfo file(request.fileName);
-      dialog.setDirectory(file.absolutePath());
+      if (file.isAbsolute()) dialog.setDirectory(file.absolutePath());
       dialog.selectFile(file.fileName());
     }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;

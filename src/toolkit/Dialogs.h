@@ -11,14 +11,15 @@
 class Dialogs {
  public:
   enum class Buttons { Ok, YesNo, YesNoCancel, OkCancel };
-  enum class Icon { None, Information, Question, Critical };
+  enum class Icon { None, Information, Question, Exclamation, Critical };
   enum class Answer { Ok, Yes, No, Cancel };
 
   /// What a file dialog starts with.
   struct FileRequest {
     QString filter;         ///< pairs "label|patterns|label|patterns", patterns separated by ";"
-    QString fileName;       ///< a path to begin at, or empty
+    QString fileName;       ///< a path to begin at, a name without a folder, or empty
     bool mayBeNew = false;  ///< whether the open dialog takes a name that doesn't exist yet
+    QString title;          ///< of the window; empty for the platform's own
   };
 
   enum class PrintRange { All, Selection, Pages };
