@@ -11,9 +11,10 @@
 
 namespace TemporaryFolder {
 
+// A separator at the end would lead through a symbolic link.
 State Look(const QString &path) {
   struct stat entry;
-  if (lstat(QFile::encodeName(path).constData(), &entry) != 0) {
+  if (lstat(QFile::encodeName(QDir::cleanPath(path)).constData(), &entry) != 0) {
     return errno == ENOENT ? State::Missing : State::Foreign;
   }
   return S_ISDIR(entry.st_mode) && entry.st_uid == geteuid() ? State::Usable : State::Foreign;

@@ -1,6 +1,5 @@
 #include "frame/frmPreferences.h"
 
-#include <QFontDatabase>
 #include <QPointer>
 #include <QScreen>
 #include <QShortcut>
@@ -15,6 +14,7 @@
 #include "frame/mdiMain.h"
 #include "stencils/LoadStencilTrees.h"
 #include "toolkit/Dialogs.h"
+#include "toolkit/FontNames.h"
 #include "toolkit/UntrappedError.h"
 
 namespace {
@@ -140,7 +140,7 @@ void frmPreferences::ShowChoices(const PreferencesChoices &choices) {
 // A font that isn't installed is named all the same, and none is selected; the same holds for a
 // size that the list lacks.
 void frmPreferences::ShowFontChoices(const PreferencesChoices &choices) {
-  lstFontNames->addItems(QFontDatabase::families());
+  lstFontNames->addItems(FontNames());
   cboFontsize->addItems(fontSizes);
   const auto found = lstFontNames->findItems(choices.fontName, Qt::MatchExactly);
   if (!found.isEmpty()) lstFontNames->setCurrentItem(found.constFirst());

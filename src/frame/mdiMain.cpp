@@ -34,6 +34,7 @@
 #include "frame/frmInfo.h"
 #include "frame/frmPreferences.h"
 #include "frame/mPublic.h"
+#include "java/JavaCommands.h"
 #include "preview/PreviewCommands.h"
 #include "stencils/LoadStencilTrees.h"
 #include "stencils/StencilPanel.h"
@@ -133,6 +134,8 @@ void mdiMain::ConnectMenus() {
   connect(mnuOptionsPreferences, &QAction::triggered, this,
           [] { Default<frmPreferences>()->show(); });
   connect(mnuInfoAbout, &QAction::triggered, this, [] { Default<frmInfo>()->show(); });
+  connect(mnuJavaCompile, &QAction::triggered, this, &JavaCommands::Compile);
+  connect(mnuJavaAppletViewer, &QAction::triggered, this, &JavaCommands::AppletViewer);
   connect(mnuWindowCascade, &QAction::triggered, this, &WindowCommands::Cascade);
   connect(mnuWindowTileHoricontally, &QAction::triggered, this, &WindowCommands::TileHoricontally);
   connect(mnuWindowTileVertitally, &QAction::triggered, this, &WindowCommands::TileVertitally);

@@ -2,11 +2,9 @@
 
 #include <QFileInfo>
 #include <QPointer>
-#include <QStandardPaths>
 #include <optional>
 
 #include "base/ProgramLine.h"
-#include "base/TemporaryFolder.h"
 #include "base/WholeFile.h"
 #include "base/mFolders.h"
 #include "base/mPlatform.h"
@@ -20,6 +18,7 @@
 #include "preview/PreviewWay.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/Programs.h"
+#include "toolkit/TemporaryFolderQuestion.h"
 
 namespace {
 
@@ -31,10 +30,6 @@ const QString noApplication = QStringLiteral("Could not find any preview applica
 Answer Ask(const QString &text, Buttons buttons, const QString &title,
            Dialogs::Icon icon = Dialogs::Icon::None) {
   return Dialogs::Current().Message(text, buttons, icon, title);
-}
-
-bool IsExecutable(const QString &program) {
-  return !QStandardPaths::findExecutable(program).isEmpty();
 }
 
 // False if the preview is to end.
@@ -55,30 +50,16 @@ bool SaveIfWanted(const QPointer<frmHTMLChild> &editor) {
   return editor && !editor->IsUnloaded();
 }
 
-// A folder that is not ours counts as one that the user doesn't want made.
-bool HaveTemporaryFolder() {
-  const Platform &platform = mPlatform::Current();
-  switch (TemporaryFolder::Look(platform.temporaryFolder)) {
-    case TemporaryFolder::State::Usable:
-      return true;
-    case TemporaryFolder::State::Foreign:
-      return false;
-    case TemporaryFolder::State::Missing:
-      break;
-  }
-  const QString question = mPlatform::WithTemporaryFolder(
-      QStringLiteral("The local folder C:\\TEMP is necessary for temporary data?\r\n"
-                     "Press Ok to generate it, Cancel to quit Preview."),
-      platform);
-  return Ask(question, Buttons::OkCancel, QStringLiteral("Temporary data questions")) ==
-             Answer::Ok &&
-         TemporaryFolder::Make(platform.temporaryFolder);
-}
-
 // Writes an unsaved document where it can be shown from; nothing if the preview is to end.
 std::optional<QString> PrintUnsaved(const QPointer<frmHTMLChild> &editor,
                                     const Preferences &record) {
-  if (record.TemporaryPathStandard && !HaveTemporaryFolder()) return std::nullopt;
+  if (record.TemporaryPathStandard &&
+      !TemporaryFolderIsThere(
+          QStringLiteral("The local folder C:\\TEMP is necessary for temporary data?\r\n"
+                         "Press Ok to generate it, Cancel to quit Preview."),
+          QStringLiteral("Temporary data questions"))) {
+    return std::nullopt;
+  }
   if (!editor || editor->IsUnloaded()) return std::nullopt;
   // An absolute path is no option to any program, whatever the folder's name begins with.
   QString path = PreviewFile(record, mPlatform::Current());
@@ -88,7 +69,7 @@ std::optional<QString> PrintUnsaved(const QPointer<frmHTMLChild> &editor,
 }
 
 Programs::Outcome Run(const QString &command, const QString &path) {
-  auto [program, arguments] = ProgramLine::OfCommand(command, &IsExecutable);
+  auto [program, arguments] = ProgramLine::OfCommand(command, &Programs::IsExecutable);
   return Programs::Current().Start({.program = program, .arguments = arguments << path});
 }
 
@@ -113,7 +94,7 @@ void ShowInBrowser(const QString &path) {
 }
 
 void Show(const QString &path, const Preferences &record) {
-  switch (ChoosePreviewWay(record, path, mPlatform::Current(), &IsExecutable)) {
+  switch (ChoosePreviewWay(record, path, mPlatform::Current(), &Programs::IsExecutable)) {
     case PreviewWay::Nothing:
       break;
     case PreviewWay::BindingCommand:

@@ -81,6 +81,10 @@ std::unique_ptr<Programs> &InUse() {
 
 }  // namespace
 
+bool Programs::IsExecutable(const QString &program) {
+  return !QStandardPaths::findExecutable(program).isEmpty();
+}
+
 Programs &Programs::Current() {
   if (!InUse()) InUse() = std::make_unique<PlatformPrograms>();
   return *InUse();

@@ -42,6 +42,9 @@ class Programs {
   /// Opens a file with an application.
   virtual void Open(const QString &path, const Application &application) = 0;
 
+  /// Whether a text is the path of a program, or the name of one in PATH.
+  static bool IsExecutable(const QString &program);
+
   /// The programs in use: the platform's own unless others have been set.
   static Programs &Current();
 
