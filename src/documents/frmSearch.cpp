@@ -47,6 +47,7 @@ void frmSearch::cmdSearch_Click() {
   if (!editor || editor->IsUnloaded()) return;
   box.SetSelStart(1);
   box.SetSelLength(sought.size());
+  editor->SyncLineNumbers(frmHTMLChild::AllLineNumbers);
 }
 
 void frmSearch::Unloaded() {

@@ -138,10 +138,11 @@ void mdiMain::cmdSizing_Click(int index) {
   if (index == 0) {
     SetPanelWidth(picRightWindows->width() + sizingStep);
   } else if (index == 1) {
+    const bool hadFocus = cmdSizing_[1]->hasFocus();
     setEnabled(false);
     SetPanelWidth(picRightWindows->width() - sizingStep);
     setEnabled(true);
-    cmdSizing_[1]->setFocus(Qt::OtherFocusReason);
+    if (hadFocus) cmdSizing_[1]->setFocus(Qt::OtherFocusReason);
   } else {
     ShowPanel(mText::Val(cmdSizing_[2]->text()) == 6);
     setEnabled(picRightWindows->isVisibleTo(this));
