@@ -33,6 +33,7 @@
 #include "frame/FocusRound.h"
 #include "frame/WindowCommands.h"
 #include "frame/mPublic.h"
+#include "java/JavaCommands.h"
 #include "stencils/LoadStencilTrees.h"
 #include "stencils/StencilPanel.h"
 #include "stencils/frmExport.h"
@@ -126,6 +127,8 @@ void mdiMain::ConnectMenus() {
   connect(mnuAssistantsColorSelection, &QAction::triggered, this, &OpenAssistant<frmColors>);
   connect(mnuAssitantsSpecialCharacters, &QAction::triggered, this,
           &OpenAssistant<frmSpecialCharacters>);
+  connect(mnuJavaCompile, &QAction::triggered, this, &JavaCommands::Compile);
+  connect(mnuJavaAppletViewer, &QAction::triggered, this, &JavaCommands::AppletViewer);
   connect(mnuWindowCascade, &QAction::triggered, this, &WindowCommands::Cascade);
   connect(mnuWindowTileHoricontally, &QAction::triggered, this, &WindowCommands::TileHoricontally);
   connect(mnuWindowTileVertitally, &QAction::triggered, this, &WindowCommands::TileVertitally);

@@ -1,13 +1,10 @@
 // The two ways of quitting. They differ in which forms they unload and in what they delete; the
 // difference is deliberate.
 
-#include <QFile>
-
-#include "base/mFolders.h"
-#include "base/mPlatform.h"
 #include "documents/mEditors.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
+#include "java/JavaCommands.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/EndProgram.h"
 
@@ -50,8 +47,7 @@ bool mdiMain::QueryUnload(UnloadMode mode) {
   UnloadToolForms();
   mForms::UnloadDefaults({"frmQuickBar", "frmDebuggingInfo"});
   UnloadEditors();
-  QFile::remove(
-      mFolders::Join(mPlatform::Current().temporaryFolder, QStringLiteral("compiler.dat")));
+  JavaCommands::DeleteCompilerOutput();
   if (mode == UnloadMode::TaskManager) EndProgram();
   return true;
 }

@@ -107,6 +107,8 @@ class PlatformDialogs : public Dialogs {
         return QMessageBox::Yes | QMessageBox::No;
       case Buttons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+      case Buttons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
       default:
         return QMessageBox::Ok;
     }

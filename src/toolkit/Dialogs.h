@@ -10,7 +10,7 @@
 /// The one way to the dialogs that the platform provides. Tests put a scripted one in its place.
 class Dialogs {
  public:
-  enum class Buttons { Ok, YesNo, YesNoCancel };
+  enum class Buttons { Ok, YesNo, YesNoCancel, OkCancel };
   enum class Icon { None, Information, Question, Critical };
   enum class Answer { Ok, Yes, No, Cancel };
 
