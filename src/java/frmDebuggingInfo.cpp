@@ -10,7 +10,6 @@
 #include "base/mText.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
-#include "java/CompilerOutput.h"
 #include "toolkit/DoEvents.h"
 #include "toolkit/twips.h"
 
@@ -181,11 +180,21 @@ void frmDebuggingInfo::ShowMessages(const QString &text) {
   const int run = run_;
   SetGridHeader();
   txtDebuggingInfoOutput->setPlainText(mText::Trim(text));
-  const QList<QStringView> blocks = CompilerOutput::Blocks(text);
-  ClearGrid(int(blocks.size()));
+  QList<CompilerMessage> messages;
+  for (const QStringView block : CompilerOutput::Blocks(text)) {
+    messages << CompilerOutput::MessageOf(block);
+    DoEventsInLoop();
+    if (!WaitsFor(run)) return;
+  }
+  FillGrid(messages);
+}
+
+void frmDebuggingInfo::FillGrid(const QList<CompilerMessage> &messages) {
+  const int run = run_;
+  ClearGrid(int(messages.size()));
   SetGridHeader();
-  for (int row = 0; row < blocks.size(); ++row) {
-    const CompilerMessage message = CompilerOutput::MessageOf(blocks[row]);
+  for (int row = 0; row < messages.size(); ++row) {
+    const CompilerMessage &message = messages[row];
     int column = 0;
     for (const QString &cell : {QString::number(row + 1), QString::number(message.Line),
                                 message.Message, message.Source}) {
