@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QResizeEvent>
 #include <algorithm>
 
@@ -22,6 +23,7 @@ constexpr int lastTick = 40;    // that goes on
 constexpr qint64 largestRunFile = 9'000'000;
 constexpr double columnShares[] = {0.06, 0.06, 0.44, 0.44};
 constexpr int columns = 4;
+constexpr int rowGap = 4;  // pixels
 constexpr int roundTheViews = twips(150);
 constexpr int aboveAndBelow = twips(700);
 
@@ -36,6 +38,7 @@ frmDebuggingInfo::frmDebuggingInfo() : DialogForm(Default<mdiMain>()) {
   picDebuggingInfoTab->SetTabs({{QStringLiteral("  compiler"), QStringLiteral("  compiler")},
                                 {QStringLiteral("output"), QStringLiteral("output")}});
   picDebuggingInfoTab->lower();
+  flgDebuggingInfo->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   timTimer = new QTimer(this);
   timTimer->setObjectName(QStringLiteral("timTimer"));
   timTimer->setInterval(interval);
@@ -49,6 +52,7 @@ void frmDebuggingInfo::Load() {
   if (const int size = mPublic::recPreferences.EditorFontSize; size > 0) font.setPointSize(size);
   flgDebuggingInfo->setFont(font);
   txtDebuggingInfoOutput->setFont(font);
+  flgDebuggingInfo->verticalHeader()->setDefaultSectionSize(QFontMetrics(font).height() + rowGap);
   ClearGrid(1);
   TurnTo(1);
 }
