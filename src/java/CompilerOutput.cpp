@@ -37,6 +37,18 @@ QString WithCrLf(QStringView text) {
   return result;
 }
 
+// Without the beginning of a UTF-8 character at the end.
+QByteArrayView WithoutCutCharacter(QByteArrayView bytes) {
+  if (bytes.isValidUtf8()) return bytes;
+  const auto isFollowing = [](char byte) { return (byte & 0xC0) == 0x80; };
+  int following = 0;
+  while (following < longestUtf8 - 1 && isFollowing(bytes[bytes.size() - 1 - following])) {
+    ++following;
+  }
+  const bool cut = uchar(bytes[bytes.size() - 1 - following]) >= 0xC0;
+  return cut ? bytes.chopped(following + 1) : bytes;
+}
+
 // Calls found(number, position behind the pair) for every pair of colons with a positive number
 // between them. The second colon of a pair can be the first of the next one.
 template <class Found>
@@ -55,9 +67,7 @@ void ForEachNumber(QStringView block, const Found &found) {
 }  // namespace
 
 QString Decode(QByteArrayView bytes) {
-  QByteArrayView whole = bytes;
-  const int mayBeCut = bytes.size() >= LargestFile ? longestUtf8 - 1 : 0;
-  for (int cut = 0; cut < mayBeCut && !whole.isValidUtf8(); ++cut) whole.chop(1);
+  const QByteArrayView whole = bytes.size() < LargestFile ? bytes : WithoutCutCharacter(bytes);
   return WithCrLf(whole.isValidUtf8() ? QString::fromUtf8(whole) : mAnsi::FromAnsi(bytes));
 }
 

