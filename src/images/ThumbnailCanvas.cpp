@@ -14,7 +14,6 @@ namespace {
 constexpr qint64 keptBytes = 256 << 20;
 constexpr int namePoints = 6;
 constexpr int frameWidth = 1;
-constexpr int selectionWidth = 2;
 const QColor shade(150, 150, 150);
 const QColor light(230, 230, 230);
 
@@ -26,8 +25,6 @@ ThumbnailCanvas::ThumbnailCanvas(QWidget *parent)
   setMouseTracking(true);
   shpThumbnailSelection_->setObjectName(QStringLiteral("shpThumbnailSelection"));
   shpThumbnailSelection_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  shpThumbnailSelection_->setFrameStyle(QFrame::Box | QFrame::Plain);
-  shpThumbnailSelection_->setLineWidth(selectionWidth);
   shpThumbnailSelection_->hide();
   timMissing_.setParent(this);
   timMissing_.setSingleShot(true);
@@ -61,9 +58,8 @@ void ThumbnailCanvas::Select(int index) {
 }
 
 void ThumbnailCanvas::SetShapeColour(const QColor &colour) {
-  QPalette palette;
-  palette.setColor(QPalette::WindowText, colour);
-  shpThumbnailSelection_->setPalette(palette);
+  shpThumbnailSelection_->setStyleSheet(
+      QStringLiteral("#shpThumbnailSelection { border: 2px solid %1; }").arg(colour.name()));
 }
 
 // ---- the mouse
@@ -155,11 +151,12 @@ void ThumbnailCanvas::DrawCell(QPainter &painter, int index) {
   }
   if (look_.frames) DrawFrame(painter, cell);
   if (!look_.names) return;
-  const QString name = file.unreadable ? notReadable : QFileInfo(file.path).fileName();
+  const QString name =
+      file.unreadable ? notReadable
+                      : InOneLine(ThumbnailName(QFileInfo(file.path).fileName(), look_.widthIndex));
   painter.setPen(palette().color(QPalette::Text));
   painter.drawText(cell.adjusted(2 * frameWidth, 0, -2 * frameWidth, -2 * frameWidth),
-                   Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine,
-                   InOneLine(ThumbnailName(name, look_.widthIndex)));
+                   Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine, name);
 }
 
 void ThumbnailCanvas::DrawPicture(QPainter &painter, const QRect &cell, const QImage &picture,

@@ -116,6 +116,13 @@ int main(int argc, char **argv) {
     End(1);
   }
   const Size size = told.width > 0 && told.height > 0 ? told : DrawnSize(box);
+  // The box is that of what is drawn; a file that tells its size has a rim of its own around it.
+  if (told.width > 0 && told.height > 0) {
+    constexpr double pointsPerInch = 72;  // of the library's drawings
+    box.TL = {0, 0};
+    box.BR = {float(told.width / dotsPerInch * pointsPerInch),
+              float(told.height / dotsPerInch * pointsPerInch)};
+  }
   const double width = std::max(1.0, std::round(size.width));
   const double height = std::max(1.0, std::round(size.height));
   if (!(width * height <= mostPixels)) End(1);

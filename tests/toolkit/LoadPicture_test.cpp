@@ -20,7 +20,7 @@ TEST(LoadPictureTest, TellsThePictureByItsContent) {
            {"a@2x.png", Encoded({8, 6}, "PNG"), {8, 6}},
            {"a.gif", AnimatedGif(), {2, 3}},
            {"cmyk.jpg", CmykJpeg(), {8, 6}},
-           {"half.jpg", Encoded({70, 50}, "JPG").first(500), {70, 50}},
+           {"half.jpg", Encoded({70, 50}, "JPG").chopped(10), {70, 50}},
            {"mono.bmp", Encoded({9, 5}, "BMP", QImage::Format_Mono), {9, 5}},
            {"deep.png", Encoded({9, 5}, "PNG", QImage::Format_RGBA64), {9, 5}},
            {"a.wmf", Metafile(2880, 1440), {192, 192}},
