@@ -52,6 +52,7 @@ void BenchStencils();
 void BenchTree();
 void BenchArrange();
 void BenchAssistants();
+void BenchImages();
 
 int PlayStart();
 int PlayOpening(const QString &file);

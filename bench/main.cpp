@@ -54,6 +54,7 @@ int main(int argc, char **argv) {
   if (wanted("tree")) BenchTree();
   if (wanted("arrange")) BenchArrange();
   if (wanted("assistants")) BenchAssistants();
+  if (wanted("images")) BenchImages();
   mForms::DestroyAll();
   return 0;
 }
