@@ -53,6 +53,7 @@ void BenchTree();
 void BenchArrange();
 void BenchAssistants();
 void BenchCompiler();
+void BenchImages();
 
 int PlayStart();
 int PlayOpening(const QString &file);

@@ -55,6 +55,7 @@ int main(int argc, char **argv) {
   if (wanted("arrange")) BenchArrange();
   if (wanted("assistants")) BenchAssistants();
   if (wanted("compiler")) BenchCompiler();
+  if (wanted("images")) BenchImages();
   mForms::DestroyAll();
   return 0;
 }

@@ -34,6 +34,7 @@
 #include "frame/frmInfo.h"
 #include "frame/frmPreferences.h"
 #include "frame/mPublic.h"
+#include "images/frmImageViewer.h"
 #include "java/JavaCommands.h"
 #include "preview/PreviewCommands.h"
 #include "stencils/LoadStencilTrees.h"
@@ -116,6 +117,10 @@ void mdiMain::ConnectMenus() {
   // The editor shows itself, and may be gone again by then.
   connect(mnuViewSelfStencilsWindow, &QAction::triggered, this,
           [] { Default<frmSelfStencilBuilder>(); });
+  connect(mnuViewImageBrowsingWindow, &QAction::triggered, this, [] {
+    // It draws a picture while it is made, and may have been closed over that.
+    if (auto *form = Default<frmImageViewer>(); !form->IsUnloaded()) form->show();
+  });
   connect(mnuViewQuickBar, &QAction::triggered, this, &frmQuickBar::Open);
   connect(mnuViewQuickBarEditor, &QAction::triggered, this,
           [] { Default<frmQuickbarEditor>()->show(); });

@@ -35,7 +35,7 @@ class CompileTest : public FormsTest {
 
   // Compiles a source with scripted programs and returns the window.
   frmDebuggingInfo *Run() {
-    if (TemporaryFolder::StateOf(temporary) != TemporaryFolder::State::Usable) {
+    if (TemporaryFolder::Look(temporary) != TemporaryFolder::State::Usable) {
       EXPECT_TRUE(TemporaryFolder::Make(temporary));
     }
     if (!mPublic::AnyEditorOpen()) Open(u"T.java"_s, "class T {}");
@@ -112,7 +112,7 @@ TEST_F(CompileTest, TheTemporaryFolderIsMadeAfterTheQuestionAlone) {
   EXPECT_FALSE(QFileInfo::exists(temporary));
   EXPECT_TRUE(programs->started.isEmpty());
   main->mnuJavaCompile->trigger();
-  EXPECT_EQ(TemporaryFolder::StateOf(temporary), TemporaryFolder::State::Usable);
+  EXPECT_EQ(TemporaryFolder::Look(temporary), TemporaryFolder::State::Usable);
   EXPECT_EQ(dialogs.messages.last(),
             u"Temporary data question|The local folder %1 is necessary for temporary data?\r\n"
             "Press OK to generate it, Cancel to end compilation.|3"_s.arg(temporary));

@@ -1,64 +1,14 @@
 #include "toolkit/LoadPicture.h"
 
-#include <QBuffer>
 #include <QTemporaryDir>
-#include <QtEndian>
 
 #include "shared/Files.h"
+#include "shared/Pictures.h"
 
 namespace {
 
-QByteArray Encoded(QSize size, const char *type) {
-  QImage picture(size, QImage::Format_RGB32);
-  picture.fill(Qt::blue);
-  QBuffer buffer;
-  EXPECT_TRUE(picture.save(&buffer, type));
-  return buffer.data();
-}
-
-template <class Number>
-QByteArray Little(Number number) {
-  number = qToLittleEndian(number);
-  return QByteArray(reinterpret_cast<const char *>(&number), sizeof number);
-}
-
-// An icon (type 1) or cursor (type 2) of square pictures.
-QByteArray Icon(quint16 type, std::initializer_list<int> sizes) {
-  QByteArray directory = Little<quint16>(0) + Little(type) + Little(quint16(sizes.size()));
-  QByteArray pictures;
-  for (const int size : sizes) {
-    const QByteArray png = Encoded({size, size}, "PNG");
-    directory += QByteArray(2, char(size)) + QByteArray(2, 0) + Little<quint16>(1) +
-                 Little<quint16>(32) + Little(quint32(png.size())) +
-                 Little(quint32(6 + 16 * sizes.size() + pictures.size()));
-    pictures += png;
-  }
-  return directory + pictures;
-}
-
-// With a mark that asks for a quarter turn.
-QByteArray TurnedJpeg(QSize size) {
-  const QByteArray tiff = QByteArray("II*\0\10\0\0\0\1\0", 10) + Little<quint16>(0x112) +
-                          Little<quint16>(3) + Little<quint32>(1) + Little<quint32>(6) +
-                          Little<quint32>(0);
-  const QByteArray mark =
-      QByteArray("\xFF\xE1\0", 3) + char(8 + tiff.size()) + QByteArray("Exif\0\0", 6) + tiff;
-  return Encoded(size, "JPG").insert(2, mark);
-}
-
-QByteArray BmpHeader(quint32 side) {
-  return "BM" + Little<quint32>(54) + Little<quint32>(0) + Little<quint32>(54) +
-         Little<quint32>(40) + Little(side) + Little(side) + Little<quint16>(1) +
-         Little<quint16>(24) + QByteArray(24, 0);
-}
-
 TEST(LoadPictureTest, TellsThePictureByItsContent) {
   const QTemporaryDir folder;
-  const QByteArray gif = QByteArray::fromHex(
-      "47494638396102000300800000ff00000000ff"  // 2 by 3, two colours
-      "2c0000000002000300000203840f0500"        // the whole picture
-      "2c000000000100010000020244010000"
-      "3b");
   struct Case {
     const char *name;
     QByteArray bytes;
@@ -68,7 +18,15 @@ TEST(LoadPictureTest, TellsThePictureByItsContent) {
            Case{"a.png", Encoded({7, 5}, "PNG"), {7, 5}},
            {"wrong.ending", Encoded({7, 5}, "BMP"), {7, 5}},
            {"a@2x.png", Encoded({8, 6}, "PNG"), {8, 6}},
-           {"a.gif", gif, {2, 3}},
+           {"a.gif", AnimatedGif(), {2, 3}},
+           {"cmyk.jpg", CmykJpeg(), {8, 6}},
+           {"half.jpg", Encoded({70, 50}, "JPG").chopped(10), {70, 50}},
+           {"mono.bmp", Encoded({9, 5}, "BMP", QImage::Format_Mono), {9, 5}},
+           {"deep.png", Encoded({9, 5}, "PNG", QImage::Format_RGBA64), {9, 5}},
+           {"a.wmf", Metafile(2880, 1440), {192, 192}},
+           {"plain.wmf", Metafile(1000), {480, 480}},
+           {"cut.wmf", Metafile(1000, 1440).first(30), {}},
+           {"huge.wmf", Metafile(32000, 1), {}},
            {"a.ico", Icon(1, {16, 48, 32}), {48, 48}},
            {"large.png", Icon(1, {16, 256, 128}), {256, 256}},
            {"a.cur", Icon(2, {16, 32}), {32, 32}},
@@ -87,10 +45,25 @@ TEST(LoadPictureTest, TellsThePictureByItsContent) {
     if (picture) {
       EXPECT_EQ(picture->deviceIndependentSize().toSize(), size) << name;
     }
+    const auto scaled = LoadScaledPicture(path, [](QSize whole) { return whole / 2; });
+    ASSERT_EQ(scaled.has_value(), size.isValid()) << name;
+    if (!scaled) continue;
+    EXPECT_EQ(scaled->size, size) << name;
+    EXPECT_EQ(scaled->picture.size(), size / 2) << name;
   }
   EXPECT_FALSE(LoadPicture(folder.path()));
   EXPECT_FALSE(LoadPicture(folder.filePath(QStringLiteral("missing.png"))));
   EXPECT_FALSE(LoadPicture({}));
+}
+
+TEST(LoadPictureTest, DrawsMetafiles) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("-a b.wmf"));
+  PutFile(path, Metafile(2880, 1440));
+  const auto picture = LoadPicture(path);
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->pixelColor(20, 20), QColor(Qt::black));
+  EXPECT_EQ(picture->pixelColor(150, 150), QColor(Qt::white));
 }
 
 }  // namespace
