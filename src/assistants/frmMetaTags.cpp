@@ -23,17 +23,13 @@ frmMetaTags::frmMetaTags() : DialogForm(Default<mdiMain>()) {
   txtMetaTags.back() = boxes_[cookieRow].second;
   for (size_t i = 0; i < txtMetaTags.size(); ++i)
     txtMetaTags[i]->setObjectName(QStringLiteral("txtMetaTags_%1").arg(i));
-  // The rows come before the buttons, which were made first.
-  QWidget *last = nullptr;
-  for (int row = 0; row < int(chkMetaTags.size()); ++row) {
-    const auto [first, second] = boxes_[row];
-    for (QWidget *control : std::initializer_list<QWidget *>{chkMetaTags[row], first, second}) {
-      if (last && control) setTabOrder(last, control);
-      if (control) last = control;
-    }
-  }
+  // The buttons were made first, but come behind the rows. Qt 6.4 moves nothing behind a window's
+  // last control, so that one must not be the last any more.
+  const auto [lastButOne, last] = boxes_[cookieRow];
+  setTabOrder(lastButOne, cmdOk);
+  setTabOrder(lastButOne, last);
+  setTabOrder(last, cmdCancel);
   setTabOrder(last, cmdOk);
-  setTabOrder(cmdOk, cmdCancel);
   // A box that isn't a row's own can be filled in at any time.
   for (size_t i = 0; i < chkMetaTags.size(); ++i) {
     txtMetaTags[i]->setEnabled(false);

@@ -1,5 +1,4 @@
 #include <QDir>
-#include <QFontDatabase>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -9,6 +8,7 @@
 #include "shared/Limits.h"
 #include "shared/StencilFormsTest.h"
 #include "stencils/LoadStencilTrees.h"
+#include "toolkit/FontNames.h"
 
 namespace {
 
@@ -30,7 +30,7 @@ class PreferencesFormTest : public StencilFormsTest {
   static double Size(const QWidget *widget) { return widget->font().pointSizeF(); }
   // A font of the system that isn't the one in use.
   QString OtherFont() const {
-    const auto families = QFontDatabase::families();
+    const auto families = FontNames();
     return families.last();
   }
   void ChooseFont(const QString &name, const QString &size) {
