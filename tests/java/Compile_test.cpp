@@ -310,6 +310,31 @@ TEST_F(CompileTest, TheOutputOfAProgramIsShownForAsLongAsItRuns) {
 
 // ---- a real compiler
 
+TEST_F(CompileTest, WhateverTheCompilerDoesTheWindowGoesOnPolling) {
+  Programs::Set(nullptr);
+  struct Case {
+    const char *script;
+    qint64 bytes;  // that the output comes to
+  };
+  for (const auto &[script, bytes] : {
+           Case{"exit 1", -1},
+           {"exec sleep 2", -1},
+           {"exec head -c 500000000 /dev/zero > \"$2\"", 500'000'000},
+       }) {
+    const QString path = Write(u"compiler"_s, QByteArray("#!/bin/sh\n") + script + '\n');
+    ASSERT_TRUE(
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    SetPaths(path, {});
+    frmDebuggingInfo *form = Run();
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return bytes < 0 || QFileInfo(output).size() >= bytes; }, 60'000));
+    for (int tick = 0; tick < 3; ++tick) form->ReadCompilerOutput();
+    EXPECT_TRUE(form->timTimer->isActive()) << script;
+    EXPECT_EQ(Rows(*form), noRows) << script;
+  }
+  QFile::remove(output);
+}
+
 TEST_F(CompileTest, ARealCompilersErrorsBecomeRows) {
   const QString compiler = QStandardPaths::findExecutable(u"javac"_s);
   if (compiler.isEmpty()) GTEST_SKIP() << "there is no javac";
