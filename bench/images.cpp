@@ -1,4 +1,5 @@
 #include <QDir>
+#include <QElapsedTimer>
 #include <QImageReader>
 #include <QTemporaryDir>
 #include <QTimer>
