@@ -48,6 +48,7 @@ void FillFolder(const QString &folder, const char *type, int count) {
 
 // As the user chooses it, from the root down.
 void ChooseFolder(frmImageViewer &form, const QString &folder) {
+  Q_EMIT form.drvImageDrive->activated(0);  // a folder made since isn't in the tree
   KeyedTree &tree = *form.trwDirectories;
   QTreeWidgetItem *node = tree.Node(1);
   QString path;
