@@ -1,7 +1,6 @@
 #include "assistants/ListText.h"
 
 #include <array>
-#include <limits>
 
 #include "base/mText.h"
 
@@ -16,11 +15,6 @@ const QString definition = QStringLiteral(
 constexpr std::array tags{"ul", "ol", "dl", "menu", "dir"};
 constexpr std::array bullets{"circle", "square", "disc"};
 constexpr std::array numberings{" type=\"I\"", " type=\"i\"", " type=\"A\"", " type=\"a\"", ""};
-
-qsizetype ItemCount(const QString &box) {
-  const qint64 count = mText::RoundToEven(mText::Val(box));
-  return count < 0 || count > std::numeric_limits<qint16>::max() ? 0 : count;
-}
 
 QString Attributes(const ListText &list) {
   switch (list.kind) {
@@ -41,6 +35,6 @@ QString Attributes(const ListText &list) {
 QString ListText::Build() const {
   const QString tag = QLatin1String(tags[kind]);
   const QString &item = kind == Definitions ? definition : listItem;
-  return u'<' + tag + Attributes(*this) + u'>' + lineEnd + item.repeated(ItemCount(noOfItems)) +
-         QStringLiteral("</") + tag + u'>';
+  return u'<' + tag + Attributes(*this) + u'>' + lineEnd +
+         item.repeated(mText::CountOf(noOfItems)) + QStringLiteral("</") + tag + u'>';
 }

@@ -8,18 +8,11 @@
 #include "base/mText.h"
 #include "documents/Insertion.h"
 #include "frame/mdiMain.h"
+#include "toolkit/ChosenOption.h"
 
 FrameSourceTable frameSourceTable;
 
 namespace {
-
-// The number of the option that is set.
-template <size_t N>
-qint16 Chosen(const std::array<QRadioButton *, N> &options) {
-  const auto set = std::find_if(options.begin(), options.end(),
-                                [](const QRadioButton *option) { return option->isChecked(); });
-  return qint16(set - options.begin());
-}
 
 QString LabelText(const char *slot) {
   return QLatin1String(slot) + QLatin1String(" Frame");
@@ -109,8 +102,8 @@ void frmInsertFrame::tabFrameAttributes_Click(int tab) {
 }
 
 void frmInsertFrame::StoreAttributes(FrameAttributes &row) const {
-  row.scrolling = Chosen(optScrolling_);
-  row.resize = Chosen(optResize_);
+  row.scrolling = qint16(ChosenOption(optScrolling_));
+  row.resize = qint16(ChosenOption(optResize_));
   row.frameborder = chkFrameBorder->isChecked() ? 1 : 0;
   StoreMargin(row.marginheight, *txtMarginheight);
   StoreMargin(row.marginwidth, *txtMarginwidth);

@@ -1,22 +1,11 @@
 #include "assistants/frmInsertList.h"
 
-#include <algorithm>
-
 #include "assistants/ListText.h"
 #include "assistants/OpenAssistant.h"
 #include "documents/Insertion.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
-
-namespace {
-
-template <class Options>
-int Chosen(const Options &options) {
-  const auto isChecked = [](const QRadioButton *option) { return option->isChecked(); };
-  return int(std::find_if(options.begin(), options.end(), isChecked) - options.begin());
-}
-
-}  // namespace
+#include "toolkit/ChosenOption.h"
 
 frmInsertList::frmInsertList() : DialogForm(Default<mdiMain>()) {
   setupUi(this);
@@ -49,9 +38,9 @@ void frmInsertList::Open(int kind) {
 
 void frmInsertList::cmdOk_Click() {
   ListText list;
-  list.kind = Chosen(optListType_);
-  list.bulletType = Chosen(optBulletType_);
-  list.numberingStyle = Chosen(optNumberingStyle_);
+  list.kind = ChosenOption(optListType_);
+  list.bulletType = ChosenOption(optBulletType_);
+  list.numberingStyle = ChosenOption(optNumberingStyle_);
   list.compact = chkCompact->isChecked();
   list.noOfItems = txtNoOfItems->text();
   list.startValue = txtStartValue->text();

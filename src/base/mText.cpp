@@ -175,6 +175,12 @@ QString ReplaceAllText(QStringView text, QStringView find, QStringView replaceme
   return result;
 }
 
+qint16 CountOf(QStringView text) {
+  const qint64 count = RoundToEven(Val(text));
+  const bool fits = count >= 0 && count <= std::numeric_limits<qint16>::max();
+  return fits ? qint16(count) : qint16(0);
+}
+
 qint64 RoundToEven(double number) {
   if (std::isnan(number)) return 0;
   // The double nearest to the largest qint64 lies just beyond it.

@@ -44,6 +44,10 @@ QString Right(QStringView text, qsizetype length);
 /// of a replacement can be part of the next hit. An empty find changes nothing.
 QString ReplaceAllText(QStringView text, QStringView find, QStringView replacement);
 
+/// The count that is typed into a number box: the nearest whole number, 0 if it is below 0 or too
+/// large for 16 bits.
+qint16 CountOf(QStringView text);
+
 /// Nearest whole number, halves to the even one. The nearest end of the range for what lies beyond
 /// it, 0 for what isn't a number.
 qint64 RoundToEven(double number);

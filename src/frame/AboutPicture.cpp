@@ -73,10 +73,7 @@ QPixmap AboutPicture(qreal devicePixelRatio) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRect all(QPoint(), pictureSize);
 
-  QLinearGradient ground(all.topLeft(), all.bottomRight());
-  ground.setColorAt(0, QColor(0x1d, 0x2b, 0x3f));
-  ground.setColorAt(1, QColor(0x2f, 0x6f, 0xb5));
-  painter.fillRect(all, ground);
+  DrawProgramGround(painter, all);
   QRadialGradient lamp(QPointF(130, 110), 220);
   lamp.setColorAt(0, QColor(255, 240, 200, 70));
   lamp.setColorAt(1, QColor(255, 240, 200, 0));

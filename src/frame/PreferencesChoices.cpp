@@ -1,7 +1,6 @@
 #include "frame/PreferencesChoices.h"
 
 #include <QFileInfo>
-#include <limits>
 
 #include "base/mText.h"
 
@@ -15,11 +14,6 @@ int OptionOf(qint32 index) {
 
 int IndexOf(int option) {
   return option == PreferencesChoices::None ? 0 : option;
-}
-
-qint16 Count(const QString &text) {
-  const qint64 count = mText::RoundToEven(mText::Val(text));
-  return count < 0 || count > std::numeric_limits<qint16>::max() ? qint16(0) : qint16(count);
 }
 
 void SetPair(FlagField &standard, FlagField &other, bool isOther) {
@@ -91,8 +85,8 @@ Preferences RecordOf(const PreferencesChoices &choices) {
   record.EditorStandardSettings = !choices.otherEditorSettings;
   if (choices.otherEditorSettings) {
     record.EditorFontName.Set(choices.fontName);
-    if (!choices.fontSize.isEmpty()) record.EditorFontSize = Count(choices.fontSize);
-    record.TabulatorCount = Count(choices.tabulatorCount);
+    if (!choices.fontSize.isEmpty()) record.EditorFontSize = mText::CountOf(choices.fontSize);
+    record.TabulatorCount = mText::CountOf(choices.tabulatorCount);
   } else {
     record.EditorFontName.Set(u"Courier New");
     record.TabulatorCount = 4;

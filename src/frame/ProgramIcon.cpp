@@ -26,6 +26,13 @@ void DrawProgramSign(QPainter &painter) {
   painter.drawLine(QPointF(16, 9), QPointF(16, 23));
 }
 
+void DrawProgramGround(QPainter &painter, const QRect &place) {
+  QLinearGradient ground(place.topLeft(), place.bottomRight());
+  ground.setColorAt(0, QColor(0x1d, 0x2b, 0x3f));
+  ground.setColorAt(1, QColor(0x2f, 0x6f, 0xb5));
+  painter.fillRect(place, ground);
+}
+
 QIcon ProgramIcon() {
   return DrawnIcon(32, DrawIcon);
 }

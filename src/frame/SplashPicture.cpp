@@ -44,10 +44,7 @@ QPixmap SplashPicture(qreal devicePixelRatio) {
   painter.setRenderHint(QPainter::Antialiasing);
   const QRect all(QPoint(), pictureSize);
 
-  QLinearGradient ground(all.topLeft(), all.bottomRight());
-  ground.setColorAt(0, QColor(0x1d, 0x2b, 0x3f));
-  ground.setColorAt(1, QColor(0x2f, 0x6f, 0xb5));
-  painter.fillRect(all, ground);
+  DrawProgramGround(painter, all);
   DrawMarkup(painter);
 
   painter.save();

@@ -3,7 +3,6 @@
 #include <QPointer>
 #include <QScreen>
 #include <QShortcut>
-#include <algorithm>
 
 #include "base/mText.h"
 #include "documents/mEditors.h"
@@ -13,6 +12,7 @@
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
 #include "stencils/LoadStencilTrees.h"
+#include "toolkit/ChosenOption.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/FontNames.h"
 #include "toolkit/UntrappedError.h"
@@ -28,13 +28,6 @@ const QStringList fontSizes{
 template <class Options>
 void SetOption(const Options &options, int index) {
   if (index != PreferencesChoices::None) options[index]->setChecked(true);
-}
-
-template <class Options>
-int SetOptionOf(const Options &options) {
-  const auto set = std::find_if(options.begin(), options.end(),
-                                [](const QRadioButton *option) { return option->isChecked(); });
-  return set == options.end() ? PreferencesChoices::None : int(set - options.begin());
 }
 
 void SetPair(QRadioButton *standard, QRadioButton *other, bool isOther) {
@@ -157,15 +150,15 @@ PreferencesChoices frmPreferences::Choices() const {
       .fileExtension = txtFileExtension->text(),
       .fileBindingCommand = txtFileBinding->text(),
       .otherImageSettings = optOtherImageSettings->isChecked(),
-      .imageHeight = SetOptionOf(optImageHeight_),
-      .imageWidth = SetOptionOf(optImageWidth_),
-      .shapeColor = SetOptionOf(optShapeColor_),
+      .imageHeight = ChosenOption(optImageHeight_),
+      .imageWidth = ChosenOption(optImageWidth_),
+      .shapeColor = ChosenOption(optShapeColor_),
       .showFilenames = chkShowFilenames->isChecked(),
       .showImageBorder = chkShowImageBorder->isChecked(),
       .showStartWindow = chkShowStartWindow->isChecked(),
       .forceDatabaseLoading = chkForceDatabaseLoading->isChecked(),
       .otherAppFont = optUseOtherAppProperties->isChecked(),
-      .appFontSize = SetOptionOf(optAppFontSize_),
+      .appFontSize = ChosenOption(optAppFontSize_),
       .otherEditorSettings = optEditorWindowProperties_1->isChecked(),
       .fontName = SelectedFontName(),
       .fontSize = cboFontsize->currentText(),

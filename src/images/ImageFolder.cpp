@@ -41,18 +41,4 @@ QString Path(const QString &folder, const QString &name) {
   return folder.endsWith(u'/') ? folder + name : mFolders::Join(folder, name);
 }
 
-QStringList Drives(const QStringList &mounted) {
-  constexpr std::array<const char *, 3> places{"/media/", "/mnt/", "/run/media/"};
-  QStringList volumes;
-  std::copy_if(mounted.begin(), mounted.end(), std::back_inserter(volumes),
-               [&](const QString &root) {
-                 return std::any_of(places.begin(), places.end(), [&root](const char *place) {
-                   return root.startsWith(QLatin1String(place));
-                 });
-               });
-  volumes.sort();
-  volumes.removeDuplicates();
-  return QStringList{QStringLiteral("/")} + volumes;
-}
-
 }  // namespace ImageFolder

@@ -19,8 +19,4 @@ bool IsImageName(const QString &name);
 /// Folder and name; a folder that ends in a separator gets no second one.
 QString Path(const QString &folder, const QString &name);
 
-/// The roots to choose from, of those where a volume is mounted: the first is "/", then come the
-/// volumes that a user plugs in or adds.
-QStringList Drives(const QStringList &mounted);
-
 }  // namespace ImageFolder

@@ -2,10 +2,10 @@
 
 #include <QFileInfo>
 #include <QPainter>
-#include <QStorageInfo>
 #include <algorithm>
 #include <array>
 
+#include "base/Drives.h"
 #include "base/mFolders.h"
 #include "frame/PanelFont.h"
 #include "frame/PixelFile.h"
@@ -22,12 +22,6 @@ namespace {
 
 constexpr int noImageSide = 32;
 const QString placeholder = QStringLiteral("*");
-
-QStringList MountedDrives() {
-  QStringList roots;
-  for (const QStorageInfo &volume : QStorageInfo::mountedVolumes()) roots << volume.rootPath();
-  return ImageFolder::Drives(roots);
-}
 
 QColor ShapeColour() {
   const std::array<QColor, 4> colours{QColor(255, 0, 0), QColor(0, 255, 0), QColor(0, 0, 255),
@@ -103,7 +97,7 @@ void frmImageViewer::Load() {
   SetPanelFont(*filOpenImage);
   SetPanelFont(*trwDirectories);
   picImageBrowserInnenFrame->SetShapeColour(ShapeColour());
-  drvImageDrive->addItems(MountedDrives());
+  drvImageDrive->addItems(Drives());
   ShowTab(1);
   if (!DrawNoImage()) return;
   StartTree(drvImageDrive->itemText(0));

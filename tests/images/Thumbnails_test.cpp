@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "base/Drives.h"
 #include "images/ImageFolder.h"
 #include "images/ThumbnailGrid.h"
 #include "images/ThumbnailText.h"
@@ -111,9 +112,8 @@ TEST(ImageFolderTest, ReadsWhatTheUserMaySee) {
   }
   EXPECT_EQ(ImageFolder::Path(QStringLiteral("/"), QStringLiteral("a")), QStringLiteral("/a"));
   EXPECT_EQ(ImageFolder::Path(QStringLiteral("/b"), QStringLiteral("a")), QStringLiteral("/b/a"));
-  EXPECT_EQ(
-      ImageFolder::Drives(names({"/run/media/me/STICK", "/", "/home", "/mnt/b", "/media/cd"})),
-      names({"/", "/media/cd", "/mnt/b", "/run/media/me/STICK"}));
+  EXPECT_EQ(DrivesAmong(names({"/run/media/me/STICK", "/", "/home", "/mnt/b", "/media/cd"})),
+            names({"/", "/media/cd", "/mnt/b", "/run/media/me/STICK"}));
 }
 
 }  // namespace
