@@ -15,6 +15,7 @@ namespace {
 constexpr QSize photo(2000, 1500);
 constexpr int distinct = 5;
 constexpr int bigSize = 2;          // cells of 150 pixels
+constexpr int largestSize = 3;      // cells of 300 pixels
 const QSize thumbnail(120, 90);     // of a photo in such a cell
 constexpr double leastRate = 0.85;  // of the decoder's own
 
@@ -33,13 +34,57 @@ QImage Photo(int seed) {
   return picture;
 }
 
+// A GIF that grows no codes: as large as its picture, and as quick to decode as they come.
+QByteArray Gif(const QImage &photo) {
+  const QImage picture = photo.convertToFormat(QImage::Format_Indexed8);
+  QByteArray bytes("GIF89a");
+  const auto word = [&bytes](int value) {
+    bytes += char(value & 0xFF);
+    bytes += char(value >> 8);
+  };
+  word(picture.width());
+  word(picture.height());
+  bytes += QByteArray("\xF6\0\0", 3);  // 128 colours
+  for (int i = 0; i < 128; ++i) bytes += QByteArray(3, char(2 * i));
+  bytes += QByteArray(",\0\0\0\0", 5);
+  word(picture.width());
+  word(picture.height());
+  bytes += QByteArray("\0\7", 2);  // codes of 8 bits, as long as the table is cleared in time
+  constexpr int between = 120;
+  constexpr char clear = char(0x80);
+  QByteArray codes;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      if (codes.size() % between == 0) codes += clear;
+      codes += char(picture.pixelIndex(x, y) & 0x7F);
+    }
+  }
+  codes += char(0x81);
+  constexpr qsizetype block = 255;
+  for (qsizetype at = 0; at < codes.size(); at += block) {
+    const QByteArray part = codes.mid(at, block);
+    bytes += char(part.size());
+    bytes += part;
+  }
+  return bytes + QByteArray("\0;", 2);
+}
+
+void SavePhoto(int seed, const QString &path) {
+  if (!path.endsWith(QStringLiteral("gif"))) {
+    Photo(seed).save(path);
+    return;
+  }
+  QFile file(path);
+  if (file.open(QIODevice::WriteOnly)) file.write(Gif(Photo(seed)));
+}
+
 void FillFolder(const QString &folder, const char *type, int count) {
   for (int i = 0; i < count; ++i) {
     const auto path = [&](int number) {
       return QStringLiteral("%1/%2.%3").arg(folder).arg(number).arg(QLatin1String(type));
     };
     if (i < distinct) {
-      Photo(i).save(path(i));
+      SavePhoto(i, path(i));
     } else {
       QFile::copy(path(i % distinct), path(i));
     }
@@ -93,6 +138,26 @@ double LongestWait(frmImageViewer &form) {
   return double(longest) / 1e6;
 }
 
+// A line of /proc/self/status, in MB.
+double Status(const char *name) {
+  QFile file(QStringLiteral("/proc/self/status"));
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  for (const QByteArray &line : file.readAll().split('\n')) {
+    if (line.startsWith(name)) return line.mid(7).simplified().split(' ').first().toDouble() / 1024;
+  }
+  return 0;
+}
+
+// What a scan takes at its worst above what the window has taken before it.
+double MegabytesOfAScan(frmImageViewer &form) {
+  const double before = Status("VmRSS:");
+  QFile peak(QStringLiteral("/proc/self/clear_refs"));
+  if (peak.open(QIODevice::WriteOnly)) peak.write("5");  // the peak begins anew
+  peak.close();
+  form.cmdSetImagePath->click();
+  return Status("VmHWM:") - before;
+}
+
 double MillisecondsOfAScroll(frmImageViewer &form) {
   constexpr int steps = 100;
   QScrollBar &bar = *form.scrImageViewer;
@@ -105,18 +170,23 @@ double MillisecondsOfAScroll(frmImageViewer &form) {
          1000 / steps;
 }
 
+void SetSizes(int index) {
+  mPublic::ReadPreferences();
+  mPublic::recPreferences.ImageHeight = mPublic::recPreferences.ImageWidth = index;
+  mPublic::WritePreferences();
+}
+
 }  // namespace
 
 void BenchImages() {
-  mPublic::ReadPreferences();
-  mPublic::recPreferences.ImageHeight = mPublic::recPreferences.ImageWidth = bigSize;
-  mPublic::WritePreferences();
+  SetSizes(bigSize);
   frmImageViewer &form = *Default<frmImageViewer>();
   form.show();
   DoEvents();
   CompareScan(form, "jpg", 500);
   CompareScan(form, "png", 40);
   CompareScan(form, "bmp", 40);
+  CompareScan(form, "gif", 40);
   const QTemporaryDir folder;
   FillFolder(folder.path(), "jpg", 100);
   ChooseFolder(form, folder.path());
@@ -129,5 +199,10 @@ void BenchImages() {
   form.cmdSetImagePath->click();
   Measure(QStringLiteral("a jump in 5,000 thumbnails"), QStringLiteral("ms"), 16,
           [&form] { return MillisecondsOfAScroll(form); });
+  SetSizes(largestSize);
+  form.picImageBrowserInnenFrame->Clear({});
+  const double decoded = double(photo.width()) * photo.height() * 4 / 1024 / 1024;
+  Measure(QStringLiteral("memory of a scan of 5,000 files"), QStringLiteral("MB"), 256 + decoded,
+          [&form] { return MegabytesOfAScan(form); });
   Unload(form);
 }

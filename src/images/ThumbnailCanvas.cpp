@@ -1,6 +1,7 @@
 #include "images/ThumbnailCanvas.h"
 
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -23,6 +24,8 @@ ThumbnailCanvas::ThumbnailCanvas(QWidget *parent)
     : QWidget(parent), thumbnails_(keptBytes), shpThumbnailSelection_(new QFrame(this)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  InstallAccessible();
   shpThumbnailSelection_->setObjectName(QStringLiteral("shpThumbnailSelection"));
   shpThumbnailSelection_->setAttribute(Qt::WA_TransparentForMouseEvents);
   shpThumbnailSelection_->hide();
@@ -36,6 +39,7 @@ void ThumbnailCanvas::Clear(Look look) {
   cells_.clear();
   thumbnails_.clear();
   missing_.clear();
+  current_ = 0;
   shpThumbnailSelection_->hide();
   setToolTip({});
   update();
@@ -52,7 +56,13 @@ QString ThumbnailCanvas::PathOf(int index) const {
   return index >= 0 && index < Count() ? cells_[index].path : QString();
 }
 
+QString ThumbnailCanvas::CellName(int cell) const {
+  return InOneLine(QFileInfo(PathOf(cell - 1)).fileName());
+}
+
 void ThumbnailCanvas::Select(int index) {
+  update(look_.grid.Cell(current_));
+  current_ = index;
   shpThumbnailSelection_->setGeometry(look_.grid.Cell(index));
   shpThumbnailSelection_->show();
 }
@@ -75,6 +85,58 @@ void ThumbnailCanvas::mousePressEvent(QMouseEvent *event) {
 
 void ThumbnailCanvas::mouseMoveEvent(QMouseEvent *event) {
   setToolTip(PathOf(FileAt(event->position().toPoint())).toHtmlEscaped());
+}
+
+// ---- the keyboard
+
+void ThumbnailCanvas::keyPressEvent(QKeyEvent *event) {
+  const int columns = look_.grid.columns;
+  const int page = std::max(1, visibleRegion().boundingRect().height() / look_.grid.RowHeight());
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return MoveTo(current_ - 1);
+    case Qt::Key_Right:
+      return MoveTo(current_ + 1);
+    case Qt::Key_Up:
+      return MoveTo(current_ - columns);
+    case Qt::Key_Down:
+      return MoveTo(current_ + columns);
+    case Qt::Key_PageUp:
+      return MoveTo(std::max(current_ - page * columns, current_ % columns));
+    case Qt::Key_PageDown:
+      return MoveTo(std::min(current_ + page * columns, Count() - 1));
+    case Qt::Key_Home:
+      return MoveTo(0);
+    case Qt::Key_End:
+      return MoveTo(Count() - 1);
+    case Qt::Key_Space:
+      if (current_ < Count()) Q_EMIT CellPressed(current_);
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+void ThumbnailCanvas::MoveTo(int index) {
+  if (index < 0 || index >= Count()) return;
+  update(look_.grid.Cell(current_));
+  current_ = index;
+  update(look_.grid.Cell(current_));
+  QAccessibleEvent focused(this, QAccessible::Focus);
+  focused.setChild(current_);
+  QAccessible::updateAccessibility(&focused);
+  Q_EMIT CurrentMoved(current_);
+}
+
+void ThumbnailCanvas::focusInEvent(QFocusEvent *event) {
+  QWidget::focusInEvent(event);
+  if (event->reason() == Qt::MouseFocusReason) return;  // the press tells which cell
+  MoveTo(current_);
+}
+
+void ThumbnailCanvas::focusOutEvent(QFocusEvent *event) {
+  QWidget::focusOutEvent(event);
+  update(look_.grid.Cell(current_));
 }
 
 // ---- thumbnails
@@ -133,6 +195,7 @@ void ThumbnailCanvas::paintEvent(QPaintEvent *event) {
   for (int index = first; index < std::min(behind, Count()); ++index) {
     if (grid.Cell(index).intersects(seen)) DrawCell(painter, index);
   }
+  if (hasFocus()) DrawFocus(painter);
 }
 
 void ThumbnailCanvas::DrawCell(QPainter &painter, int index) {
@@ -174,4 +237,11 @@ void ThumbnailCanvas::DrawFrame(QPainter &painter, const QRect &cell) const {
   painter.setPen(light);
   painter.drawLine(cell.bottomLeft(), cell.bottomRight());
   painter.drawLine(cell.topRight(), cell.bottomRight());
+}
+
+// Within the selection shape, which may lie over the same cell.
+void ThumbnailCanvas::DrawFocus(QPainter &painter) {
+  painter.setClipping(false);
+  painter.setPen(QPen(palette().color(QPalette::Text), 1, Qt::DotLine));
+  painter.drawRect(look_.grid.Cell(current_).adjusted(3, 3, -4, -4));
 }

@@ -9,11 +9,14 @@
 #include <vector>
 
 #include "images/ThumbnailGrid.h"
+#include "toolkit/DrawnCells.h"
 
 /// The canvas of the thumbnails: as high as all its cells, but only what is seen of it is drawn and
 /// only so many thumbnails are kept as fit into 256 MB. The others are decoded again when they are
-/// seen. The cell of shpThumbnailSelection is the selected one.
-class ThumbnailCanvas : public QWidget {
+/// seen. The cell of shpThumbnailSelection is the selected one. With the keyboard the arrows move a
+/// focus frame from cell to cell, and Space presses the cell in it. To assistive tools each cell is
+/// a push button with the name of its file.
+class ThumbnailCanvas : public QWidget, public DrawnCells {
   Q_OBJECT
 
  public:
@@ -46,17 +49,30 @@ class ThumbnailCanvas : public QWidget {
   void Select(int index);
   void SetShapeColour(const QColor &colour);
 
+  int CellCount() const override { return Count(); }
+  QString CellName(int cell) const override;
+  QRect CellRect(int cell) const override { return look_.grid.Cell(cell - 1); }
+  void PressCell(int cell) override { Q_EMIT CellPressed(cell - 1); }
+  int CurrentCell() const override { return current_ + 1; }
+  QAccessible::Role Role() const override { return QAccessible::Grouping; }
+  QAccessible::Role CellRole() const override { return QAccessible::PushButton; }
+
   /// Bytes of decoded thumbnails that are kept.
   void SetMemory(qint64 bytes) { thumbnails_.setMaxCost(bytes); }
 
  Q_SIGNALS:
-  /// The user has pressed a mouse button over the cell of a file.
+  /// The user has pressed the cell of a file.
   void CellPressed(int index);
+  /// The keyboard has gone to a cell, which may be out of sight.
+  void CurrentMoved(int index);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void focusInEvent(QFocusEvent *event) override;
+  void focusOutEvent(QFocusEvent *event) override;
 
  private:
   struct Cell {
@@ -66,6 +82,7 @@ class ThumbnailCanvas : public QWidget {
   };
 
   int FileAt(QPoint point) const;
+  void MoveTo(int index);
   QFont NameFont() const;
   QSize PictureSize(QSize picture) const;
   bool Decode(int index);
@@ -73,11 +90,13 @@ class ThumbnailCanvas : public QWidget {
   void DrawCell(QPainter &painter, int index);
   void DrawPicture(QPainter &painter, const QRect &cell, const QImage &picture, QSize size) const;
   void DrawFrame(QPainter &painter, const QRect &cell) const;
+  void DrawFocus(QPainter &painter);
 
   Look look_;
   std::vector<Cell> cells_;
   QCache<int, QImage> thumbnails_;
   std::set<int> missing_;  // seen, but not kept any more
+  int current_ = 0;        // where the keyboard is
   QTimer timMissing_;
   QFrame *shpThumbnailSelection_;
 };

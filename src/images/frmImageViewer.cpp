@@ -86,6 +86,8 @@ frmImageViewer::frmImageViewer() : DialogForm(Default<mdiMain>()) {
     picImageBrowserInnenFrame->Select(index);
     ShowImage(picImageBrowserInnenFrame->PathOf(index));
   });
+  connect(picImageBrowserInnenFrame, &ThumbnailCanvas::CurrentMoved, this,
+          &frmImageViewer::ScrollTo);
   const auto scroll = [this](int value) { picImageBrowserInnenFrame->move(0, -value); };
   connect(scrImageViewer, &QScrollBar::valueChanged, this, scroll);
   connect(scrImageViewer, &QScrollBar::sliderMoved, this, scroll);
@@ -233,6 +235,13 @@ void frmImageViewer::SizeCanvas() {
   scrImageViewer->setPageStep(frame.height());
   scrImageViewer->setSingleStep(picImageBrowserInnenFrame->Grid().RowHeight());
   scrImageViewer->setEnabled(hidden > 0);
+}
+
+void frmImageViewer::ScrollTo(int index) {
+  const ThumbnailGrid &grid = picImageBrowserInnenFrame->Grid();
+  const QRect cell = grid.Cell(index).adjusted(0, -ThumbnailGrid::Gap, 0, ThumbnailGrid::Gap);
+  QScrollBar &bar = *scrImageViewer;
+  bar.setValue(std::min(std::max(bar.value(), cell.bottom() + 1 - bar.pageStep()), cell.top()));
 }
 
 bool frmImageViewer::eventFilter(QObject *watched, QEvent *event) {

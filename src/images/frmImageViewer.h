@@ -38,6 +38,7 @@ class frmImageViewer : public DialogForm, public Ui::frmImageViewer {
   void SetScanning(bool scanning);
   void PrepareCanvas(int files);
   void SizeCanvas();
+  void ScrollTo(int index);
   void ShowImage(const QString &path);
   void cmdShowImage_Click();
 

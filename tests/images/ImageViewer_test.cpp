@@ -146,6 +146,27 @@ TEST_F(ImageViewerTest, AClickShowsTheImageAndItsMeasures) {
   EXPECT_TRUE(Canvas().toolTip().isEmpty());
 }
 
+TEST_F(ImageViewerTest, TheKeyboardReachesEveryCell) {
+  SetSizes(2);
+  PutImages(40);
+  Scan();
+  const int columns = Canvas().Grid().columns;
+  Canvas().setFocus(Qt::TabFocusReason);
+  const auto key = [this](Qt::Key key) { QTest::keyClick(&Canvas(), key); };
+  key(Qt::Key_Left);
+  EXPECT_EQ(Canvas().CurrentCell(), 1) << "nothing lies before the first";
+  key(Qt::Key_Down);
+  key(Qt::Key_Right);
+  EXPECT_TRUE(form->SelectedImage().isEmpty());
+  key(Qt::Key_Space);
+  EXPECT_EQ(form->SelectedImage(), images + Canvas().CellName(columns + 2));
+  key(Qt::Key_End);
+  EXPECT_EQ(Canvas().CurrentCell(), 40);
+  EXPECT_TRUE(Canvas().visibleRegion().contains(Canvas().CellRect(40).center()));
+  key(Qt::Key_Home);
+  EXPECT_EQ(form->scrImageViewer->value(), 0);
+}
+
 TEST_F(ImageViewerTest, ThumbnailsBeyondTheMemoryAreDecodedWhenSeen) {
   SetSizes(3);
   PutImages(12);
