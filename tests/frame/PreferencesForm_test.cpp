@@ -5,7 +5,9 @@
 #include "frame/frmPathSelect.h"
 #include "frame/frmPreferences.h"
 #include "frame/frmStart.h"
+#include "images/frmImageViewer.h"
 #include "shared/Limits.h"
+#include "shared/ScriptedPrograms.h"
 #include "shared/StencilFormsTest.h"
 #include "stencils/LoadStencilTrees.h"
 #include "toolkit/FontNames.h"
@@ -193,6 +195,87 @@ TEST_F(PreferencesFormTest, TheSplashFollows) {
   form->cmdOk->click();
   const auto *splash = Default<frmStart>();
   EXPECT_TRUE(splash->IsUnloaded());
+}
+
+TEST_F(PreferencesFormTest, PreviewAndJavaStartWhatIsChosen) {
+  ScriptedPrograms &programs = ScriptedPrograms::Install();
+  programs.toFile = Programs::Application{QStringLiteral("browser")};
+  frmHTMLChild *editor = Open(QStringLiteral("A.java"), "class A {}");
+  const QString file = editor->Caption();
+  const auto started = [&] {
+    QStringList words = std::exchange(programs.opened, {});
+    for (const auto &command : std::exchange(programs.started, {})) {
+      words << command.program << command.arguments;
+    }
+    return words.join(u'|');
+  };
+  form->optOtherPreViewer->click();
+  form->txtApplictationPath->setText(QStringLiteral(" viewer -x "));
+  form->txtJavaPath_0->setText(QStringLiteral("/my/javac"));
+  form->cmdOk->click();
+  main->mnuFileShowPreview->trigger();
+  EXPECT_EQ(started(), QStringLiteral("viewer|-x|") + file);
+  dialogs.answers = {Dialogs::Answer::Ok};
+  main->mnuJavaCompile->trigger();
+  EXPECT_TRUE(started().startsWith(QStringLiteral("/my/javac|")));
+
+  OpenDialog();
+  form->optOtherFileBinding_1->click();
+  form->txtFileExtension->setText(QStringLiteral("JAVA"));
+  form->txtFileBinding->setText(QStringLiteral("bound"));
+  form->cmdOk->click();
+  main->mnuFileShowPreview->trigger();
+  EXPECT_EQ(started(), QStringLiteral("bound|") + file);
+
+  OpenDialog();
+  form->optOtherFileBinding_0->click();
+  form->optStandartWebBrowser->click();
+  form->optTemporaryDataPath_1->click();
+  form->txtOtherTemporaryPath->setText(folder.path());
+  form->txtJavaPath_1->setText(QStringLiteral("/my/appletviewer"));
+  form->cmdOk->click();
+  editor = mEditors::OpenWindow();
+  editor->SetCaption(QStringLiteral("<unsaved>"));
+  editor->txthtml->SetText(QStringLiteral("text"));
+  main->mnuFileShowPreview->trigger();
+  EXPECT_EQ(started(), QStringLiteral("browser ") + Path(QStringLiteral("0001.html")));
+  Open(QStringLiteral("a.html"), "");
+  main->mnuJavaAppletViewer->trigger();
+  EXPECT_EQ(started(), QStringLiteral("/my/appletviewer|") + Path(QStringLiteral("a.html")));
+  Programs::Set(nullptr);
+}
+
+TEST_F(PreferencesFormTest, TheNextScanHasTheChosenThumbnails) {
+  form->optOtherImageSettings->click();
+  form->optImageHeight_1->click();
+  form->optImageWidth_2->click();
+  form->optShapeColor_2->click();
+  form->chkShowFilenames->setChecked(false);
+  form->chkShowImageBorder->setChecked(false);
+  form->cmdOk->click();
+  Write(QStringLiteral("note.txt"), "");
+  main->mnuViewImageBrowsingWindow->trigger();
+  auto *browser = static_cast<frmImageViewer *>(mForms::Find(QStringLiteral("frmImageViewer")));
+  browser->drvImageDrive->addItem(folder.path());
+  browser->drvImageDrive->setCurrentIndex(browser->drvImageDrive->count() - 1);
+  Q_EMIT browser->drvImageDrive->activated(browser->drvImageDrive->currentIndex());
+  browser->cmdSetImagePath->click();
+  ThumbnailCanvas &canvas = *browser->picImageBrowserInnenFrame;
+  ASSERT_EQ(canvas.Count(), 1);
+  canvas.clearFocus();
+  EXPECT_EQ(canvas.Grid().cell, QSize(150, 75));
+  const auto drawn = [&canvas] { return canvas.grab(canvas.CellRect(1)).toImage(); };
+  const QImage bare = drawn();
+  QImage empty = bare;
+  empty.fill(bare.pixel(75, 37));
+  EXPECT_EQ(bare, empty) << "neither frame nor name";
+  canvas.Select(0);
+  EXPECT_EQ(drawn().pixelColor(0, 37), QColor(0, 0, 255));
+  OpenDialog();
+  form->chkShowFilenames->setChecked(true);
+  form->cmdOk->click();
+  browser->cmdSetImagePath->click();
+  EXPECT_NE(drawn(), empty);
 }
 
 TEST_F(PreferencesFormTest, CancelLeavesEverythingAsItWas) {
