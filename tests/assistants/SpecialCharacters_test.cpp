@@ -54,9 +54,7 @@ TEST(SpecialCharactersTest, TheDeliveredFileHasAPictureForEachCell) {
 QStringList DeclaredEntities() {
   QStringList lines;
   for (const char *name : {"lat1", "symbol", "special"}) {
-    QFile file(
-        QStringLiteral("/usr/share/xml/w3c-sgml-lib/schema/dtd/REC-html401-19991224/HTML%1.ent")
-            .arg(QLatin1String(name)));
+    QFile file(QStringLiteral(TAGWRIGHT_DTD_FOLDER "/HTML%1.ent").arg(QLatin1String(name)));
     if (!file.open(QIODevice::ReadOnly)) return {};
     static const QRegularExpression entity(
         QStringLiteral("<!ENTITY\\s+(\\w+)\\s+CDATA\\s+\"(&#\\d+;)\""));
@@ -71,7 +69,6 @@ QStringList DeclaredEntities() {
 
 TEST(SpecialCharactersTest, TheDeliveredCharactersAreTheDeclaredOnesLessSeventeen) {
   const QStringList declared = DeclaredEntities();
-  if (declared.isEmpty()) GTEST_SKIP() << "the entity files of w3c-sgml-lib are not installed";
   EXPECT_EQ(declared.size(), 252);
   qsizetype leftOut = 252;
   qsizetype bytes = 0;

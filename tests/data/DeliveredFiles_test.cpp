@@ -21,6 +21,7 @@ static const QString deliveredPreferences = u"" TAGWRIGHT_DELIVERED_PREFERENCES 
 TEST(DeliveredFiles, HaveTheLengthsThatTheStartLooksFor) {
   EXPECT_EQ(FirstDefectDataFile(delivered.path()), std::nullopt);
   EXPECT_EQ(QFile(delivered.filePath(u"File0009.dat"_s)).size(), 2556);
+  EXPECT_EQ(QFile(delivered.filePath(u"htLib0001.htf"_s)).size(), 2904400);
   EXPECT_EQ(QFile(deliveredPreferences).size(), 3557);
 }
 
@@ -39,11 +40,12 @@ TEST(DeliveredFiles, StencilsComeBehindTheirParentsUnderKeysOfTheirOwn) {
     const QString parent = record.ParentKey.Trimmed();
     EXPECT_TRUE(keys.contains(parent) && !keys.contains(key)) << n;
     EXPECT_EQ(key, parent + QString(2, key.back())) << n;
+    EXPECT_TRUE(key.back() >= u'a' && key.back() <= u'z') << n;
     keys.insert(key);
     return true;
   };
   RecordFile<StencilRecord>(delivered.filePath(u"htLib0001.htf"_s)).Scan(1, visit);
-  EXPECT_GT(keys.size(), 1);
+  EXPECT_EQ(keys.size(), 1 + 1096) << "with the root";
 }
 
 TEST(DeliveredFiles, ABuildLeavesAUsersPreferencesAlone) {

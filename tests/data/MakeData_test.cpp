@@ -17,6 +17,12 @@ const Maker stencils = [](const SourceText &source) { StencilLibrary().Add(sourc
 const QString strip = u"size 48 24\ncells across\nbytes 96\ncolour k #010203\n"_s;
 const QString twoButtons = strip + u"button one\nkk\nk.\n\nbutton two\nk\n"_s;
 const QString entry = u"# A\nhelp\n```\n<a>\n```\n"_s;
+/// Sub-entries with different help texts.
+const auto SubEntries = [](int count) {
+  QString text;
+  for (int n = 0; n < count; ++n) text += u"## B\nhelp %1\n```\nb\n```\n"_s.arg(n);
+  return text;
+};
 
 TEST(MakeData, RefusesASourceThatBreaksARuleWithFileAndLine) {
   // Each with the beginning of its message.
@@ -30,7 +36,7 @@ TEST(MakeData, RefusesASourceThatBreaksARuleWithFileAndLine) {
       {pixels, u"\nsise 48 24"_s, "2: not understood: sise 48 24"},
       {SpecialCharacterLines, u"lt 60\n\ngt 6x2"_s, "3: not a name and a number"},
       {SpecialCharacterLines, u"lt 60\nle 60"_s, "2: 60 comes twice"},
-      {stencils, u"# A\nhelp\n"_s + u"## B\nhelp\n```\nb\n```\n"_s.repeated(27), "133: the parent"},
+      {stencils, u"# A\nhelp\n"_s + SubEntries(27), "133: the parent"},
       {stencils, u"# A\n\n"_s + u"help \n"_s.repeated(151) + entry.mid(9), "3: 754 characters"},
       {stencils, entry + u"# \u2192"_s, "6: a character outside code page 1252"},
       {stencils, entry + u"# B\n```\nb\n```"_s, "6: no help text"},
@@ -38,6 +44,20 @@ TEST(MakeData, RefusesASourceThatBreaksARuleWithFileAndLine) {
       {stencils, entry + u"# B\nhelp\n# C"_s, "6: neither source nor sub-entries"},
       {stencils, u"# A\nhelp\n```\n  <a>\n```"_s, "3: an empty source, or one with blanks"},
       {stencils, u"# A\nhelp\n```\n<a>"_s, "3: a source without end"},
+      {stencils, entry + u"# B\nHelp\n```\nb\n```"_s, "7: the help text of art.txt:2"},
+      {stencils, u"# A\ntype: loose\nhelp"_s, "2: the type is"},
+      {stencils, u"# A\nwithin: <p></p>\nhelp"_s, "2: one \"|\" marks"},
+      {stencils, u"# A\nhelp\n```\n<p>\n<dove>\n```"_s,
+       "5: html 4.01 strict has no element <dove>"},
+      {stencils, u"# A\nhelp\n```\n</B>\n<p\nid='>' font>\n```"_s, "6: <p> has no attribute font"},
+      {stencils, u"# A\nhelp\n```\n<p>\n</p\n```"_s, "5: a tag that never ends"},
+      {stencils, entry + u"## B\nb\n```\nsrc=\"\"\n```"_s, "9: <a> has no attribute src"},
+      {stencils, u"# A\nhelp\n```\n<p id=a>\n```\n## B\nb\n```\nid=\"\"\n```"_s,
+       "3: attributes stand below it"},
+      {stencils, u"# A\nwithin: <p |></b2>\na\n```\nalign=\"left\"\n```"_s,
+       "5: <p> has no attribute align"},
+      {stencils, u"# A\nwithin: <p |></b2>\na\n```\nid=\"left\"\n```"_s,
+       "1: html 4.01 strict has no"},
   };
   for (const auto &[make, text, message] : cases) {
     try {
