@@ -32,10 +32,11 @@ install() {
   } >build/install.log 2>&1 </dev/null
 }
 
-# Installs the packages that are missing; quick and silent when none is.
+# Installs what is missing of a list of packages, of what building needs if none is given; quick and
+# silent when nothing is.
 install_missing() {
   local missing
-  missing=$(missing_of packaging/build-packages.txt)
+  missing=$(missing_of "${1:-packaging/build-packages.txt}")
   [ -z "$missing" ] && return
   say "installing" $missing
   install $missing || fail "installing $missing (needs root or sudo), see build/install.log"

@@ -86,4 +86,9 @@ QString InProgramFolder(const QString &name) {
   return Join(ProgramFolder(), name);
 }
 
+QString HelperProgram(const QString &name, const QString &executableFolder) {
+  return QStandardPaths::findExecutable(
+      name, {Join(executableFolder, QStringLiteral("../libexec/tagwright")), executableFolder});
+}
+
 }  // namespace mFolders

@@ -36,4 +36,9 @@ const QString &ProgramFolder();
 /// The path of a file of the program folder.
 QString InProgramFolder(const QString &name);
 
+/// The path of a program that comes with this one and isn't meant to be started by hand: in
+/// ../libexec/tagwright of an installation, beside this one where it was built. Empty if there is
+/// none.
+QString HelperProgram(const QString &name, const QString &executableFolder);
+
 }  // namespace mFolders

@@ -32,7 +32,7 @@ std::optional<QImage> DrawMetafile(const QString &path) {
   QProcess drawing;
   drawing.setStandardErrorFile(QProcess::nullDevice());
   drawing.start(
-      mFolders::Join(QCoreApplication::applicationDirPath(), QStringLiteral("wmf2raster")),
+      mFolders::HelperProgram(QStringLiteral("wmf2raster"), QCoreApplication::applicationDirPath()),
       {QFileInfo(path).absoluteFilePath()});
   if (!drawing.waitForFinished(metafileLimit)) {
     drawing.kill();

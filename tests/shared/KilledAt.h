@@ -15,10 +15,10 @@
 /// the file system: a write, rename, removal and the like. True if it was killed, false if it came
 /// to its end before.
 inline bool KilledAt(int n, const std::function<void()> &work) {
-  static const std::set<long> operations{SYS_write,     SYS_pwrite64,  SYS_writev, SYS_rename,
-                                         SYS_renameat,  SYS_renameat2, SYS_unlink, SYS_unlinkat,
-                                         SYS_ftruncate, SYS_fsync,     SYS_fchmod, SYS_chmod,
-                                         SYS_openat,    SYS_link,      SYS_linkat};
+  static const std::set<long> operations{
+      SYS_write,  SYS_pwrite64, SYS_writev,    SYS_rename, SYS_renameat, SYS_renameat2,
+      SYS_unlink, SYS_unlinkat, SYS_ftruncate, SYS_fsync,  SYS_fchmod,   SYS_chmod,
+      SYS_openat, SYS_link,     SYS_linkat,    SYS_mkdir,  SYS_symlink,  SYS_symlinkat};
   const pid_t child = fork();
   if (child == 0) {
     ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
