@@ -75,6 +75,7 @@ void SetCommandLine(const QString &line) {
 
 mdiMain::mdiMain() {
   setupUi(this);
+  setContextMenuPolicy(Qt::NoContextMenu);  // the toolkit's would hide the strips
   setCentralWidget(splClient);
   FillBars();
   SetUpPanel();

@@ -1,5 +1,8 @@
 #include "toolkit/KeyedTree.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QHeaderView>
 #include <algorithm>
 
 KeyedTree::KeyedTree(QWidget *parent) : QTreeWidget(parent) {
@@ -7,6 +10,10 @@ KeyedTree::KeyedTree(QWidget *parent) : QTreeWidget(parent) {
   setColumnCount(1);
   // Rows of one height spare the tree from measuring each of them.
   setUniformRowHeights(true);
+  // A long text scrolls instead of being cut. Only the rows in view are measured.
+  header()->setStretchLastSection(false);
+  header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  header()->setResizeContentsPrecision(0);
 }
 
 void KeyedTree::ClearNodes() {
@@ -47,6 +54,13 @@ void KeyedTree::SetImage(QTreeWidgetItem *node, int image) {
 }
 
 void KeyedTree::keyPressEvent(QKeyEvent *event) {
+  // The toolkit knows the menu key alone.
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    const QPoint middle = viewport()->rect().center();
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, middle, viewport()->mapToGlobal(middle));
+    QCoreApplication::sendEvent(this, &menu);
+    return;
+  }
   QTreeWidget::keyPressEvent(event);
   Q_EMIT KeyPressed();
 }

@@ -85,6 +85,10 @@ TEST_F(StencilPanelTest, ARightClickInsertsTheSelectedStencilBeforeTheSelection)
   EXPECT_FALSE(mPublic::aEditorState[1].changed);
   EXPECT_EQ(insert(tree, 6, 2), QStringLiteral("one two")) << "a section";
   EXPECT_EQ(text->SelStart(), 4);
+  text->SetText({});
+  Select(tree, 4);
+  QTest::keyClick(tree, Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_EQ(text->Text(), QStringLiteral("<aabb>"));
   EXPECT_EQ(insert(main->trwSelfBuildedStencils, 1, 1), QStringLiteral("one <aaaa>two"))
       << "the only one, whatever is selected";
   PutStencils(stencils, Words("aaaa aabb"));
