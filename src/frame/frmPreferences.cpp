@@ -1,5 +1,6 @@
 #include "frame/frmPreferences.h"
 
+#include <QFontInfo>
 #include <QPointer>
 #include <QScreen>
 #include <QShortcut>
@@ -130,12 +131,16 @@ void frmPreferences::ShowChoices(const PreferencesChoices &choices) {
   txtJavaPath_1->setText(choices.appletViewerPath);
 }
 
-// A font that isn't installed is named all the same, and none is selected; the same holds for a
-// size that the list lacks.
+// A font that isn't installed is named all the same, and the one that stands in for it is selected,
+// so that the text keeps its looks; of a size that the list lacks none is.
 void frmPreferences::ShowFontChoices(const PreferencesChoices &choices) {
   lstFontNames->addItems(FontNames());
   cboFontsize->addItems(fontSizes);
-  const auto found = lstFontNames->findItems(choices.fontName, Qt::MatchExactly);
+  auto found = lstFontNames->findItems(choices.fontName, Qt::MatchExactly);
+  if (found.isEmpty() && !choices.fontName.isEmpty()) {
+    const QString standIn = QFontInfo(QFont(choices.fontName)).family();
+    found = lstFontNames->findItems(standIn, Qt::MatchExactly);
+  }
   if (!found.isEmpty()) lstFontNames->setCurrentItem(found.constFirst());
   ShowFont(choices.fontName);
   cboFontsize->setCurrentIndex(fontSizes.indexOf(choices.fontSize));

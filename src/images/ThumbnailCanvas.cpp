@@ -186,7 +186,6 @@ void ThumbnailCanvas::paintEvent(QPaintEvent *event) {
   QPainter painter(this);
   const QRect seen = event->rect();
   painter.fillRect(seen, palette().base());
-  painter.setFont(NameFont());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   const ThumbnailGrid &grid = look_.grid;
   if (Count() == 0) return;
@@ -218,8 +217,12 @@ void ThumbnailCanvas::DrawCell(QPainter &painter, int index) {
       file.unreadable ? notReadable
                       : InOneLine(ThumbnailName(QFileInfo(file.path).fileName(), look_.widthIndex));
   painter.setPen(palette().color(QPalette::Text));
-  painter.drawText(cell.adjusted(2 * frameWidth, 0, -2 * frameWidth, -2 * frameWidth),
-                   Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine, name);
+  const QRect line = cell.adjusted(2 * frameWidth, 0, -2 * frameWidth, -2 * frameWidth);
+  QFont font = NameFont();
+  const int width = QFontMetrics(font).horizontalAdvance(name);
+  if (width > line.width()) font.setStretch(std::max(50, 100 * line.width() / width));
+  painter.setFont(font);
+  painter.drawText(line, Qt::AlignHCenter | Qt::AlignBottom | Qt::TextSingleLine, name);
 }
 
 void ThumbnailCanvas::DrawPicture(QPainter &painter, const QRect &cell, const QImage &picture,

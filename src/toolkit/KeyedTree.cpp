@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QPersistentModelIndex>
 #include <algorithm>
 
 KeyedTree::KeyedTree(QWidget *parent) : QTreeWidget(parent) {
@@ -61,6 +62,23 @@ void KeyedTree::keyPressEvent(QKeyEvent *event) {
     QCoreApplication::sendEvent(this, &menu);
     return;
   }
-  QTreeWidget::keyPressEvent(event);
+  if (event->key() == Qt::Key_Asterisk) {
+    ExpandWhatIsThere();
+  } else {
+    QTreeWidget::keyPressEvent(event);
+  }
   Q_EMIT KeyPressed();
+}
+
+// The toolkit's way also opens what comes while it opens: where nodes read their children when they
+// are opened, that is the whole disk.
+void KeyedTree::ExpandWhatIsThere() {
+  std::vector<QPersistentModelIndex> nodes{currentIndex()};
+  for (size_t i = 0; i < nodes.size(); ++i) {
+    const int children = model()->rowCount(nodes[i]);
+    for (int row = 0; row < children; ++row) nodes.push_back(model()->index(row, 0, nodes[i]));
+  }
+  for (const QPersistentModelIndex &node : nodes) {
+    if (node.isValid()) expand(node);
+  }
 }

@@ -51,6 +51,8 @@ class KeyedTree : public QTreeWidget {
   void keyPressEvent(QKeyEvent *event) override;
 
  private:
+  void ExpandWhatIsThere();
+
   QVector<QIcon> images_;
   std::vector<QTreeWidgetItem *> nodes_;
   QHash<QString, QTreeWidgetItem *> byKey_;

@@ -1,6 +1,7 @@
 #include "toolkit/LoadPicture.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -15,7 +16,8 @@ namespace {
 
 constexpr int largestPicture = 1024;  // megabytes, four bytes a pixel
 constexpr qint64 mostPixels = qint64(largestPicture) * 1024 * 1024 / 4;
-constexpr int metafileLimit = 5000;  // milliseconds
+constexpr int metafileLimit = 5000;              // milliseconds
+constexpr qint64 mostDrawn = qint64(200) << 20;  // bytes of a drawn metafile
 
 bool IsMetafile(QByteArrayView start) {
   constexpr std::array<const char *, 3> marks{
@@ -34,7 +36,12 @@ std::optional<QImage> DrawMetafile(const QString &path) {
   drawing.start(
       mFolders::HelperProgram(QStringLiteral("wmf2raster"), QCoreApplication::applicationDirPath()),
       {QFileInfo(path).absoluteFilePath()});
-  if (!drawing.waitForFinished(metafileLimit)) {
+  const QDeadlineTimer late(metafileLimit);
+  const auto tooMuch = [&drawing] { return drawing.bytesAvailable() > mostDrawn; };
+  while (!tooMuch() && drawing.waitForReadyRead(int(late.remainingTime()))) {
+  }
+  if (!tooMuch()) drawing.waitForFinished(int(late.remainingTime()));
+  if (drawing.state() != QProcess::NotRunning) {
     drawing.kill();
     drawing.waitForFinished();
     return {};

@@ -220,6 +220,14 @@ TEST_F(ImageViewerTest, TheFolderIsChosenInATree) {
   node->setExpanded(true);
   ASSERT_EQ(node->childCount(), 1);
   EXPECT_EQ(node->child(0)->text(0), QStringLiteral("b"));
+  ASSERT_TRUE(QFile::link(QStringLiteral("."), images + QStringLiteral("b/inner/round")));
+  form->trwDirectories->setCurrentItem(node);
+  for (int levels : {2, 3, 4}) {
+    QTest::keyClick(form->trwDirectories, Qt::Key_Asterisk);
+    const QTreeWidgetItem *closed = node;
+    for (; closed->isExpanded(); closed = closed->child(0)) --levels;
+    EXPECT_EQ(levels, 0) << "no more than was there, however long the way is";
+  }
   form->cmdSetImagePath->click();
   EXPECT_EQ(Canvas().Count(), 0);
   EXPECT_TRUE(form->pgbProgress->isHidden() && !form->scrImageViewer->isEnabled());
