@@ -65,8 +65,9 @@ TEST_F(ToolStripTest, ACellRisesUnderThePointerSinksWhenPressedAndLeavesNoTrace)
 }
 
 TEST_F(ToolStripTest, PicturesStandOnOneFaceInWholePixels) {
-  QPalette night(QColor(40, 40, 40), QColor(40, 40, 40));
+  const QPalette night(QColor(40, 40, 40), QColor(40, 40, 40));
   strip.setPalette(night);
+  strip.clearFocus();
   strip.PSet(6, 30, 0x0000FF);
   for (const double scale : {1.0, 1.5, 2.0}) {
     QImage picture((QSizeF(strip.size()) * scale).toSize(), QImage::Format_RGB32);
