@@ -11,8 +11,7 @@ int main(int argc, char **argv) {
   application.setWindowIcon(ProgramIcon());
   auto *form = Default<frmLanguage>();
   form->setParent(nullptr, form->windowFlags());  // the main window stays hidden
-  form->show();
-  const int status = application.exec();
+  form->exec();
   mForms::DestroyAll();
-  return status;
+  return 0;
 }
