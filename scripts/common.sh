@@ -64,12 +64,21 @@ build() {
   }
 }
 
+# Ends what was started on the virtual display, the last one first, and the display.
+end_virtual_display() {
+  local n
+  for ((n = ${#children[@]} - 1; n >= 0; --n)); do
+    kill "${children[n]}" 2>/dev/null && wait "${children[n]}" 2>/dev/null
+  done
+  rm -rf "$private"
+}
+
 # Starts a virtual display of our own, tells programs to use it, and ends it with the shell. Sets
 # $private, a folder that goes with it.
 start_virtual_display() {
   private=$(mktemp -d) || fail "making a temporary folder"
   children=()
-  trap 'kill "${children[@]}" 2>/dev/null; wait 2>/dev/null; rm -rf "$private"' EXIT
+  trap end_virtual_display EXIT
   # Xvfb picks a free display and tells which.
   Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$private/display" 2>"$private/xvfb.log" &
   children+=($!)

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QRect>
+#include <QtEndian>
 
 using Qt::StringLiterals::operator""_s;
 
@@ -11,6 +12,8 @@ namespace {
 class ArtReader {
  public:
   explicit ArtReader(const SourceText &source) : source_(source) {}
+
+  QSize PictureSize() const { return size_; }
 
   std::vector<PixelRecord> Read() {
     while (line_ < source_.lines.size()) {
@@ -126,4 +129,37 @@ class ArtReader {
 
 std::vector<PixelRecord> PixelRecords(const SourceText &source) {
   return ArtReader(source).Read();
+}
+
+QByteArray BitmapFile(const SourceText &source) {
+  ArtReader reader(source);
+  const std::vector<PixelRecord> points = reader.Read();
+  const QSize size = reader.PictureSize();
+  constexpr qsizetype fileHeader = 14;
+  constexpr qsizetype pictureHeader = 108;  // of version 4, the first with transparency
+  QByteArray file(fileHeader + pictureHeader + 4 * size.width() * size.height(), '\0');
+  const auto put = [&file](qsizetype place, auto number) {
+    qToLittleEndian(number, file.data() + place);
+  };
+  file.replace(0, 2, "BM");
+  put(2, quint32(file.size()));
+  put(10, quint32(fileHeader + pictureHeader));
+  put(fileHeader, quint32(pictureHeader));
+  put(fileHeader + 4, qint32(size.width()));
+  put(fileHeader + 8, qint32(size.height()));  // positive: the lowest row comes first
+  put(fileHeader + 12, quint16(1));
+  put(fileHeader + 14, quint16(32));
+  put(fileHeader + 16, quint32(3));  // where a channel lies is told by masks:
+  put(fileHeader + 40, quint32(0x00FF0000));
+  put(fileHeader + 44, quint32(0x0000FF00));
+  put(fileHeader + 48, quint32(0x000000FF));
+  put(fileHeader + 52, quint32(0xFF000000));
+  put(fileHeader + 56, quint32(0x73524742));  // sRGB
+  for (const PixelRecord &point : points) {
+    const qint32 bgr = point.colour;
+    const quint32 argb = 0xFF000000U | (bgr & 0xFF) << 16 | (bgr & 0xFF00) | (bgr >> 16 & 0xFF);
+    const qsizetype row = size.height() - 1 - point.y;
+    put(fileHeader + pictureHeader + 4 * (row * size.width() + point.x), argb);
+  }
+  return file;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <vector>
 
 #include "SourceText.h"
@@ -26,3 +27,7 @@ inline constexpr int cellSide = 24;
 /// The last record of a file is never drawn. Art with fewer points than the file draws is followed
 /// by its first points again, which draws the same picture. Throws SourceError for art with more.
 std::vector<PixelRecord> PixelRecords(const SourceText &source);
+
+/// The same picture as a BMP file of 32 bits a pixel, transparent where nothing is drawn. What the
+/// source tells of a length in bytes only limits its points.
+QByteArray BitmapFile(const SourceText &source);

@@ -29,6 +29,7 @@ QByteArray Make(const QString &kind, const QStringList &sources) {
   }
   if (sources.size() != 1) return {};
   if (kind == u"pixels") return BytesOf(PixelRecords(ReadSource(sources[0])));
+  if (kind == u"bitmap") return BitmapFile(ReadSource(sources[0]));
   if (kind == u"special-characters") return SpecialCharacterLines(ReadSource(sources[0]));
   return {};
 }
@@ -40,7 +41,8 @@ int main(int argc, char **argv) {
   const QStringList arguments = QCoreApplication::arguments();
   QTextStream errors(stderr);
   if (arguments.size() < 3) {
-    errors << "make_data pixels|special-characters|stencils|preferences OUTPUT [SOURCE...]\n";
+    errors
+        << "make_data pixels|bitmap|special-characters|stencils|preferences OUTPUT [SOURCE...]\n";
     return 2;
   }
   try {

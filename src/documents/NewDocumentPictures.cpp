@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "toolkit/ArtColours.h"
+
 namespace {
 
 constexpr int edge = 32;
@@ -15,11 +17,11 @@ void DrawSheet(QPainter &painter) {
   sheet.lineTo(26.5, 30.5);
   sheet.lineTo(5.5, 30.5);
   sheet.closeSubpath();
-  painter.setPen(QColor(0x5a, 0x64, 0x70));
-  painter.setBrush(QColor(0xfd, 0xfd, 0xfb));
+  painter.setPen(ArtColours::Outline);
+  painter.setBrush(ArtColours::Paper);
   painter.drawPath(sheet);
   const QPointF corner[] = {{20.5, 1.5}, {20.5, 7.5}, {26.5, 7.5}};
-  painter.setBrush(QColor(0xd5, 0xdb, 0xe2));
+  painter.setBrush(ArtColours::Shade);
   painter.drawPolygon(corner, 3);
 }
 
@@ -28,7 +30,7 @@ void DrawPage(QPainter &painter, const QColor &band) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(band);
   painter.drawRect(QRectF(6, 20, 20, 6));
-  painter.setBrush(QColor(0x9a, 0xa5, 0xb1));
+  painter.setBrush(ArtColours::Outline);
   painter.drawRect(QRectF(9, 10, 8, 1.5));
   painter.drawRect(QRectF(11, 13, 11, 1.5));
   painter.drawRect(QRectF(11, 16, 8, 1.5));
@@ -44,19 +46,19 @@ void DrawLetters(QPainter &painter, const QString &letters) {
 }
 
 void DrawFrames(QPainter &painter) {
-  painter.setPen(QPen(QColor(0x2f, 0x6f, 0xb5), 1));
-  painter.setBrush(QColor(0xd9, 0xe8, 0xf7));
+  painter.setPen(QPen(ArtColours::Orange, 1));
+  painter.setBrush(ArtColours::Paper);
   painter.drawRect(QRectF(8.5, 9.5, 15, 8));
   painter.drawLine(QPointF(13.5, 9.5), QPointF(13.5, 17.5));
 }
 
 void DrawCup(QPainter &painter) {
-  painter.setPen(QPen(QColor(0x8a, 0x4b, 0x1f), 1.2));
-  painter.setBrush(QColor(0xf0, 0xe0, 0xcf));
+  painter.setPen(QPen(ArtColours::Orange, 1));
+  painter.setBrush(ArtColours::Orange);
   painter.drawRoundedRect(QRectF(10, 16, 10, 8), 2, 2);
   painter.setBrush(Qt::NoBrush);
   painter.drawArc(QRectF(18, 17, 5, 5), -90 * 16, 180 * 16);
-  painter.setPen(QPen(QColor(0xc0, 0x39, 0x2b), 1.2));
+  painter.setPen(QPen(ArtColours::Red, 1));
   for (const qreal x : {12.5, 15.0, 17.5}) painter.drawLine(QPointF(x, 14), QPointF(x + 0.8, 10.5));
 }
 
@@ -73,20 +75,20 @@ QPixmap NewDocumentPicture(NewDocumentType type, qreal devicePixelRatio) {
     case NewDocumentType::BlankPage:
       break;
     case NewDocumentType::HtmlStrict:
-      DrawPage(painter, QColor(0x2f, 0x6f, 0xb5));
+      DrawPage(painter, ArtColours::DarkBlue);
       DrawLetters(painter, QStringLiteral("S"));
       break;
     case NewDocumentType::HtmlTransitional:
-      DrawPage(painter, QColor(0x3c, 0x8d, 0x4f));
+      DrawPage(painter, ArtColours::Green);
       DrawLetters(painter, QStringLiteral("T"));
       break;
     case NewDocumentType::HtmlFrameset:
-      DrawPage(painter, QColor(0xb0, 0x6a, 0x1c));
+      DrawPage(painter, ArtColours::Orange);
       DrawFrames(painter);
       DrawLetters(painter, QStringLiteral("F"));
       break;
     case NewDocumentType::AppletPage:
-      DrawPage(painter, QColor(0xa0, 0x30, 0x3a));
+      DrawPage(painter, ArtColours::Red);
       DrawLetters(painter, QStringLiteral("APP"));
       break;
     case NewDocumentType::Java:

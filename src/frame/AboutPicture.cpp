@@ -4,6 +4,7 @@
 #include <QPainterPath>
 
 #include "frame/ProgramIcon.h"
+#include "toolkit/ArtColours.h"
 
 namespace {
 
@@ -86,7 +87,7 @@ QPixmap AboutPicture(qreal devicePixelRatio) {
   painter.translate(152, 152);
   painter.scale(2.2, 2.2);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0x1d, 0x2b, 0x3f));
+  painter.setBrush(ArtColours::Night);
   painter.drawRoundedRect(QRectF(0, 0, 32, 32), 6, 6);
   DrawProgramSign(painter);
   painter.restore();

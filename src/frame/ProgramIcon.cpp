@@ -2,13 +2,14 @@
 
 #include <QPainter>
 
+#include "toolkit/ArtColours.h"
 #include "toolkit/DrawnIcon.h"
 
 namespace {
 
 void DrawIcon(QPainter &painter) {
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0x1d, 0x2b, 0x3f));
+  painter.setBrush(ArtColours::Night);
   painter.drawRoundedRect(QRectF(1, 1, 30, 30), 5, 5);
   DrawProgramSign(painter);
 }
@@ -17,7 +18,7 @@ void DrawIcon(QPainter &painter) {
 
 void DrawProgramSign(QPainter &painter) {
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(QColor(0xf2, 0xc9, 0x4c), 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setPen(QPen(ArtColours::Yellow, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   const QPointF opening[] = {{12, 8}, {5, 16}, {12, 24}};
   const QPointF closing[] = {{20, 8}, {27, 16}, {20, 24}};
   painter.drawPolyline(opening, 3);
@@ -28,8 +29,8 @@ void DrawProgramSign(QPainter &painter) {
 
 void DrawProgramGround(QPainter &painter, const QRect &place) {
   QLinearGradient ground(place.topLeft(), place.bottomRight());
-  ground.setColorAt(0, QColor(0x1d, 0x2b, 0x3f));
-  ground.setColorAt(1, QColor(0x2f, 0x6f, 0xb5));
+  ground.setColorAt(0, ArtColours::Night);
+  ground.setColorAt(1, ArtColours::Blue);
   painter.fillRect(place, ground);
 }
 

@@ -57,7 +57,7 @@ constexpr int untilStencilsLoad = 4000;  // milliseconds
 constexpr int untilMenuCloses = 200;     // milliseconds between two looks
 constexpr QSize firstSize(1280, 800);
 constexpr QSize windowFrame(16, 48);  // room for what the window manager puts round it
-constexpr int panelWidth = 250;
+constexpr int panelWidth = 276;
 
 QString commandLine;
 

@@ -18,12 +18,13 @@ constexpr int smallestArea = 200;  // pixels that the documents keep when the pa
 constexpr int stencilsTabHeight = 18;
 constexpr int stencilsTabOverlap = 2;
 constexpr int titleMargin = 3;  // above and below a title, for the button in its row
+constexpr int titleIndent = 3;
 constexpr int largeButtonLeft = 49;
 constexpr int largeButtonRight = 4;
 
 void DrawTriangle(QPainter &painter, const QPolygonF &corners) {
   painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(110, 110, 110));
+  painter.setBrush(QColor(128, 128, 128));
   painter.drawPolygon(corners);
 }
 
@@ -65,7 +66,7 @@ void mdiMain::SetUpPanel() {
   connect(picTagDescription, &DrawnTabStrip::Resized, this, &mdiMain::PlaceDescription);
   for (const PanelTitle &title : titles_) {
     title.label->installEventFilter(this);
-    title.label->setContentsMargins(0, titleMargin, 0, titleMargin);
+    title.label->setContentsMargins(titleIndent, titleMargin, 0, titleMargin);
     for (QObject *contents : title.contents) contents->installEventFilter(this);
   }
 }

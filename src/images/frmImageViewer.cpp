@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <array>
 
@@ -14,6 +15,7 @@
 #include "images/ImageFolder.h"
 #include "images/ThumbnailText.h"
 #include "images/frmImageSinglePreview.h"
+#include "toolkit/ArtColours.h"
 #include "toolkit/DoEvents.h"
 #include "toolkit/DrawnIcon.h"
 #include "toolkit/LoadPicture.h"
@@ -31,7 +33,7 @@ QColor ShapeColour() {
 
 // A picture between a measure below and one beside it.
 void DrawDimensions(QPainter &painter) {
-  painter.setPen(QPen(QColor(106, 126, 152), 1));
+  painter.setPen(QPen(ArtColours::Outline, 1));
   painter.drawRect(QRectF(1.5, 1.5, 9, 7));
   painter.drawLine(QPointF(1.5, 12.5), QPointF(10.5, 12.5));
   painter.drawLine(QPointF(1.5, 11), QPointF(1.5, 14));
@@ -135,6 +137,7 @@ void frmImageViewer::StartTree(const QString &root) {
   trwDirectories->ClearNodes();
   QTreeWidgetItem *node = trwDirectories->Add({}, root, root);
   node->setData(0, Qt::UserRole, root);
+  node->setIcon(0, style()->standardIcon(QStyle::SP_DriveHDIcon));
   new QTreeWidgetItem(node, {placeholder});
   node->setExpanded(true);
   SetFolder(root);
@@ -146,10 +149,12 @@ void frmImageViewer::trwDirectories_Expand(QTreeWidgetItem *node) {
   if (!first || first->data(0, Qt::UserRole).isValid()) return;
   delete first;
   const QString folder = node->data(0, Qt::UserRole).toString();
+  const QIcon closed = style()->standardIcon(QStyle::SP_DirClosedIcon);
   for (const QString &name : ImageFolder::Folders(folder)) {
     const QString path = ImageFolder::Path(folder, name);
     auto child = std::make_unique<QTreeWidgetItem>();
     child->setText(0, InOneLine(name));
+    child->setIcon(0, closed);
     child->setData(0, Qt::UserRole, path);
     new QTreeWidgetItem(child.get(), {placeholder});
     trwDirectories->Add(folder, std::move(child), path);

@@ -12,8 +12,9 @@ constexpr int openFrom = 5;  // where the frame opens over the active tab, from 
 constexpr int labelPoints = 7;
 const QColor shade(128, 128, 128);
 
+// Where there is no Tahoma, a font that is as narrow: the usual substitute runs over a tab's edges.
 QFont LabelFont(bool bold) {
-  QFont font(QStringLiteral("Tahoma"), labelPoints);
+  QFont font({QStringLiteral("Tahoma"), QStringLiteral("Liberation Sans")}, labelPoints);
   font.setBold(bold);
   return font;
 }

@@ -8,10 +8,12 @@
 #include <QStyleOptionFocusRect>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
 
+const QColor face(224, 224, 224);
 const QColor light(255, 255, 255);
 const QColor dark(150, 150, 150);
 
@@ -88,9 +90,24 @@ void ToolStrip::ClearMark() {
   Mark(0, Look::Raised);
 }
 
+// All points of a picture are equally large, also where the display's scale is no whole number:
+// what a cell has beyond the next smaller one lies round its picture.
+void ToolStrip::DrawArtwork(QPainter &painter) const {
+  const QTransform toDisplay = painter.deviceTransform();
+  const QTransform fromDisplay = toDisplay.inverted();
+  for (int button = 1; button <= std::max(CellCount(), 1); ++button) {
+    const QRectF cell = toDisplay.mapRect(QRectF(CellRect(button)));
+    const int side = Cell * std::max(int(cell.width() / Cell + 0.01), 1);
+    const QRectF place(std::round(cell.center().x() - side / 2.0),
+                       std::round(cell.center().y() - side / 2.0), side, side);
+    painter.drawImage(fromDisplay.mapRect(place), artwork_, CellRect(button));
+  }
+}
+
 void ToolStrip::paintEvent(QPaintEvent *) {
   QPainter painter(this);
-  painter.drawImage(0, 0, artwork_);
+  painter.fillRect(rect(), face);
+  DrawArtwork(painter);
   for (const auto &[button, colour] : squares_) {
     if (!colour.isValid()) continue;
     const QRect cell = CellRect(button);
@@ -106,7 +123,7 @@ void ToolStrip::paintEvent(QPaintEvent *) {
     focus.initFrom(this);
     focus.rect = CellRect(current_).adjusted(1, 1, -1, -1);
     focus.state |= QStyle::State_KeyboardFocusChange;
-    focus.backgroundColor = palette().color(QPalette::Window);
+    focus.backgroundColor = face;
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
   }
 }

@@ -70,6 +70,7 @@ class ToolStrip : public QWidget, public DrawnCells {
  private:
   enum class Look { Raised, Sunken };
 
+  void DrawArtwork(QPainter &painter) const;
   bool IsButton(int button) const { return button >= 1 && button <= CellCount(); }
   int ButtonUnder(QPoint place) const;
   void Mark(int button, Look look);

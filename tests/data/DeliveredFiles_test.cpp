@@ -25,6 +25,16 @@ TEST(DeliveredFiles, HaveTheLengthsThatTheStartLooksFor) {
   EXPECT_EQ(QFile(deliveredPreferences).size(), 3557);
 }
 
+// Byte by byte, since the core knows no pictures.
+TEST(DeliveredFiles, APictureStandsForFilesThatAreNone) {
+  const QByteArray file = FileBytes(delivered.filePath(u"NoImage.bmp"_s));
+  ASSERT_EQ(file.size(), 14 + 108 + 4 * 32 * 32);
+  EXPECT_EQ(file.left(2), "BM");
+  EXPECT_EQ(file.mid(14 + 108, 4), QByteArray(4, '\0')) << "transparent round the sheet";
+  const qsizetype middle = 14 + 108 + 4 * (16 * 32 + 5);
+  EXPECT_EQ(file.mid(middle, 4).toHex(), "987e6aff") << "the sheet's left edge";
+}
+
 // The window reads line by line: the html name is what stands up to the first ";", the number
 // begins at the first "&" from the fifth character on and runs to the second ";".
 TEST(DeliveredFiles, EverySpecialCharacterCutsIntoItsTwoCodes) {

@@ -64,6 +64,29 @@ TEST_F(ToolStripTest, ACellRisesUnderThePointerSinksWhenPressedAndLeavesNoTrace)
   EXPECT_EQ(strip.grab().toImage(), before);
 }
 
+TEST_F(ToolStripTest, PicturesStandOnOneFaceInWholePixels) {
+  const QPalette night(QColor(40, 40, 40), QColor(40, 40, 40));
+  strip.setPalette(night);
+  strip.clearFocus();
+  strip.PSet(6, 30, 0x0000FF);
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    QImage picture((QSizeF(strip.size()) * scale).toSize(), QImage::Format_RGB32);
+    picture.setDevicePixelRatio(scale);
+    strip.render(&picture);
+    int red = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        const QRgb point = picture.pixel(x, y);
+        if (point == qRgb(255, 0, 0))
+          ++red;
+        else
+          EXPECT_EQ(point, qRgb(224, 224, 224)) << scale << ' ' << x << ' ' << y;
+      }
+    }
+    EXPECT_EQ(red, int(scale) * int(scale)) << scale;
+  }
+}
+
 TEST_F(ToolStripTest, TheKeyboardMovesInsideAndPresses) {
   strip.setFocus(Qt::TabFocusReason);
   for (const auto key : {Qt::Key_Up, Qt::Key_Space, Qt::Key_Down, Qt::Key_Return, Qt::Key_Right,
