@@ -134,7 +134,10 @@ void JournalFile::Begin() {
 void JournalFile::Append(const QByteArray &records) {
   QFile *log = begun_ ? begun_.get() : file_.get();
   if (failed_ || !log) return;
-  if (log->write(records) != records.size()) Fail();
+  const qint64 before = log->size();
+  if (log->write(records) == records.size()) return;
+  log->resize(before);
+  Fail();
 }
 
 void JournalFile::Sync() {

@@ -26,7 +26,9 @@ class JournalFileTest : public testing::Test {
     Put(file, text);
   }
 
-  QStringList Names() const { return QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+  QStringList Names() const {
+    return QDir(path).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+  }
 
   // What the next process finds, one after the other.
   QStringList Texts() const {
