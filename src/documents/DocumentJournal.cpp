@@ -60,7 +60,11 @@ bool DocumentJournal::Saved(bool written) {
   saveFailed_ = !written;
   // The document knows its saved text, also when undo brings it back.
   editor_->txthtml->document()->setModified(!written);
-  SetDue();
+  if (written) {
+    Remove();
+  } else {
+    SetDue();
+  }
   return written;
 }
 

@@ -50,7 +50,6 @@ class DocumentJournal : public QObject {
   /// Becomes due again if something couldn't be written.
   void RetryIfFailed();
 
-
  private:
   void Follow(int position, int removed, int added);
   void SetDue();
@@ -60,9 +59,9 @@ class DocumentJournal : public QObject {
 
   frmHTMLChild *editor_;
   QPointer<Journal> journal_;
-  std::shared_ptr<JournalFile> file_;  ///< null while nothing is kept
-  qsizetype copied_ = 0;               ///< characters of the document that the log says
-  bool beginning_ = false;             ///< the log has yet to be put in place
+  std::shared_ptr<JournalFile> file_;        ///< null while nothing is kept
+  qsizetype copied_ = 0;                     ///< characters of the document that the log says
+  bool beginning_ = false;                   ///< the log has yet to be put in place
   std::vector<JournalRecords::Edit> edits_;  ///< in what has been copied, not yet handed over
   QString caption_;                          ///< that the log says
   int editsWritten_ = 0;

@@ -15,7 +15,7 @@ constexpr int rest = 1000;
 constexpr int limit = 8000;
 
 // As long as pieces are handed over between two events; far from what a hand feels.
-constexpr int untilNextEvent = 3;
+constexpr int untilNextEvent = 2;
 constexpr int betweenPieces = 5;
 
 // So many pieces wait for the disk at the most, for the sake of memory.

@@ -46,20 +46,21 @@ std::unique_ptr<QFile> OpenLocked(const QString &path) {
   return mine ? std::move(file) : nullptr;
 }
 
+void SyncFolder(const QString &path) {
+  const int folder = open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (folder < 0) return;
+  fsync(folder);
+  close(folder);
+}
+
 bool MakeFolder(const QString &path) {
   constexpr QFile::Permissions ownersOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
   const QString parent = QFileInfo(path).absolutePath();
   QDir().mkpath(QFileInfo(parent).absolutePath());
-  for (const QString &folder : {parent, path}) QDir().mkdir(folder, ownersOnly);
+  for (const QString &folder : {parent, path}) {
+    if (QDir().mkdir(folder, ownersOnly)) SyncFolder(QFileInfo(folder).absolutePath());
+  }
   return QFileInfo(path).isDir();
-}
-
-void SyncFolder(const QString &path) {
-  const int folder =
-      open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (folder < 0) return;
-  fsync(folder);
-  close(folder);
 }
 
 bool Rename(const QString &from, const QString &to) {

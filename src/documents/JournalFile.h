@@ -9,8 +9,8 @@
 
 #include "documents/JournalRecords.h"
 
-/// The file of one document's journal. The process that it belongs to holds a lock on it, which ends
-/// with the process, so several can share a folder.
+/// The file of one document's journal. The process that it belongs to holds a lock on it, which
+/// ends with the process, so several can share a folder.
 ///
 /// A log is begun beside the one that it replaces and put in its place when it says the whole
 /// document, so at every moment the file under the journal's name says all of it, of now or of a
@@ -19,8 +19,8 @@
 /// All but Failed may block on the disk, and belong to one thread at a time.
 class JournalFile {
  public:
-  /// A journal without a file, to be begun in that folder. The folder is made when it is needed, for
-  /// its owner alone.
+  /// A journal without a file, to be begun in that folder. The folder is made when it is needed,
+  /// for its owner alone.
   explicit JournalFile(const QString &folder);
 
   /// The journals of a folder, oldest first, be they a living process's or not.
@@ -31,10 +31,10 @@ class JournalFile {
     JournalRecords::Document document;
   };
 
-  /// Takes over the journal of a process that has ended. Nothing, and the file stays as it is, if it
-  /// is a living process's or none that may be read. What can't be understood is kept under the name
-  /// with ".damaged" at its end: the whole file if that is all of it, which gives nothing; else
-  /// another name of the file, whose log is to be begun anew.
+  /// Takes over the journal of a process that has ended. Nothing, and the file stays as it is, if
+  /// it is a living process's or none that may be read. What can't be understood is kept under the
+  /// name with ".damaged" at its end: the whole file if that is all of it, which gives nothing;
+  /// else another name of the file, whose log is to be begun anew.
   static std::optional<Found> TakeOver(const QString &path);
 
   /// Removes what processes that have ended had begun and not put in place.

@@ -14,7 +14,8 @@
 ///
 ///     heading  "tagwright journal 1\n"
 ///     record   kind (1 byte: 1 caption, 2 edit), position, removed, size (4 each, little-endian),
-///              size bytes (the caption in UTF-8, the edit's text), digest (16, BLAKE2s of all that)
+///              size bytes (the caption in UTF-8, the edit's text), digest (16, BLAKE2s of all
+///              that)
 namespace JournalRecords {
 
 /// Characters that gave way to a text.
@@ -41,9 +42,9 @@ struct Document {
   bool whole;    ///< whether the log was sound to its end
 };
 
-/// Reads a log up to its end or its first unsound record. Nothing if not even a caption can be read,
-/// or if no editor could hold the text. However long the device, no more than the sound records and
-/// the head of one more are read.
+/// Reads a log up to its end or its first unsound record. Nothing if not even a caption can be
+/// read, or if no editor could hold the text. However long the device, no more than the sound
+/// records and the head of one more are read.
 std::optional<Document> Read(QIODevice &log);
 
 }  // namespace JournalRecords

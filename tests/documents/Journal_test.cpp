@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QRandomGenerator>
+#include <QThread>
 #include <algorithm>
+#include <atomic>
 #include <optional>
 
 #include "documents/Insertion.h"
@@ -32,6 +34,13 @@ class JournalTest : public FormsTest {
   void Rest() {
     ASSERT_TRUE(QMetaObject::invokeMethod(journal->timRest, "timeout"));
     while (journal->IsBusy()) DoEvents();
+  }
+
+  // What has been handed to the journal's thread is done.
+  void WaitForThread() {
+    std::atomic<bool> done = false;
+    journal->Do(journal->NewFile(), [&done](JournalFile &) { done = true; });
+    while (!done) QThread::yieldCurrentThread();
   }
 
   // A copy of the folder as it is now, which is what a kill would leave.
@@ -111,6 +120,11 @@ TEST_F(JournalTest, UnsavedTextIsKeptHoweverItCameAndNothingElseIs) {
   page->txthtml->redo();
   Rest();
   EXPECT_EQ(Kept().size(), 2);
+  page->GotFocus();
+  dialogs.answers = {Answer::Yes};
+  FileCommands::Save();
+  WaitForThread();
+  EXPECT_EQ(Kept().size(), 1) << "a saved text is gone at once";
 }
 
 TEST_F(JournalTest, OnlyTheUsersWordOrASaveRemovesAText) {
@@ -257,6 +271,26 @@ TEST_F(JournalTest, WhatIsEditedWhileTheTextIsCopiedIsKeptToTheLetter) {
   EXPECT_EQ(Kept(), QStringList{QStringLiteral("a.html: ")});
 }
 
+TEST_F(JournalTest, ALargeTextIsPutInPlaceOnlyWhenAllOfItIsWritten) {
+  frmHTMLChild *editor = Open(QStringLiteral("a.html"), QByteArray("line\r\n").repeated(50'000));
+  const auto writePart = [&] {
+    for (int pieces = 0; pieces < 3; ++pieces) editor->journal->WriteNext();
+    EXPECT_TRUE(editor->journal->IsDue());
+    WaitForThread();
+  };
+  Type(editor, QStringLiteral("x"));
+  writePart();
+  EXPECT_TRUE(Kept().isEmpty());
+  Rest();
+  const QStringList before = Kept();
+  EXPECT_EQ(before.value(0).size(), 8 + 1 + 250'000);
+  editor->txthtml->SetSelText(QString(150'000, u'y'));
+  writePart();
+  EXPECT_EQ(Kept(), before);
+  Rest();
+  EXPECT_EQ(Kept().value(0).size(), before[0].size() + 150'000);
+}
+
 TEST_F(JournalTest, ManyEditsMakeTheLogAnewNotEverLonger) {
   frmHTMLChild *editor = Open(QStringLiteral("a.html"), QByteArray(1000, 'o'));
   for (int i = 0; i < 2200; ++i) {
@@ -308,6 +342,22 @@ TEST_F(JournalTest, DocumentsThatFindNoSlotWaitForTheNextStart) {
   for (int slot : {1, 2}) mEditors::aEditorWindow[slot]->close();
   StartAgain(left);
   EXPECT_EQ(Open(), QStringList{QStringLiteral("<unsaved>: 2")});
+}
+
+TEST_F(JournalTest, TheFileThatTheStartNamesStandsInFront) {
+  Type(OpenUnsaved({}), QStringLiteral("x"));
+  Rest();
+  const QString left = Left();
+  StartAgain(Path(QStringLiteral("empty")));
+  mForms::DestroyAll();
+  journal.reset();
+  journal.emplace(left);
+  SetCommandLine(Write(QStringLiteral("b.html"), "b"));
+  main = Default<mdiMain>();
+  main->show();
+  EXPECT_EQ(Open().size(), 2);
+  ASSERT_TRUE(mEditors::Active());
+  EXPECT_EQ(mEditors::Active()->Caption(), Path(QStringLiteral("b.html")));
 }
 
 TEST_F(JournalTest, OnAFullDiskTheLastTextStaysAndIsTriedAgain) {
