@@ -46,6 +46,7 @@ QString PageFile(qsizetype bytes);
 void BenchStart();
 void BenchOpening();
 void BenchTyping();
+void BenchJournal();
 void BenchColouring();
 void BenchMoves();
 void BenchStencils();

@@ -48,6 +48,7 @@ int main(int argc, char **argv) {
   Default<mdiMain>()->timloadStencils->stop();
   DoEvents();
   if (wanted("typing")) BenchTyping();
+  if (wanted("journal")) BenchJournal();
   if (wanted("colouring")) BenchColouring();
   if (wanted("moves")) BenchMoves();
   if (wanted("stencils")) BenchStencils();

@@ -88,10 +88,11 @@ start_virtual_display() {
   done
   [ -s "$private/display" ] || fail "starting Xvfb: $(head -n 1 "$private/xvfb.log")"
   DISPLAY=:$(cat "$private/display")
-  # A runtime folder of its own, so that a running program is no hindrance.
+  # Folders of its own, so that a running program is no hindrance and no lost documents are opened.
   XDG_RUNTIME_DIR=$private/runtime
+  XDG_STATE_HOME=$private/state
   mkdir -m 700 "$XDG_RUNTIME_DIR"
   QT_QPA_PLATFORM=xcb
-  export DISPLAY XDG_RUNTIME_DIR QT_QPA_PLATFORM
+  export DISPLAY XDG_RUNTIME_DIR XDG_STATE_HOME QT_QPA_PLATFORM
   unset WAYLAND_DISPLAY
 }

@@ -1,6 +1,7 @@
 #include "base/mFolders.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -80,6 +81,12 @@ const QString &ProgramFolder() {
     return chosen;
   }();
   return folder;
+}
+
+QString Mark(const QString &programFolder) {
+  const QByteArray folder = QFileInfo(programFolder).canonicalFilePath().toUtf8();
+  const QByteArray hash = QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex();
+  return QString::fromLatin1(hash.left(16));
 }
 
 QString InProgramFolder(const QString &name) {

@@ -33,6 +33,9 @@ bool FillUserDataFolder(const ProgramFolderSources &sources);
 /// Without a separator at its end.
 const QString &ProgramFolder();
 
+/// Sixteen letters that tell program folders apart, however their paths are written.
+QString Mark(const QString &programFolder);
+
 /// The path of a file of the program folder.
 QString InProgramFolder(const QString &name);
 

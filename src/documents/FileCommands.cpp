@@ -44,7 +44,7 @@ void OpenInNewEditor(const QString &path) {
 
 // The document counts as saved whether or not the file took the text.
 void Print(const frmHTMLChild &editor, const QString &path, const QByteArray &printed) {
-  WriteWholeFile(path, printed);
+  editor.journal->Saved(WriteWholeFile(path, printed));
   mPublic::aEditorState[editor.Slot()].changed = false;
 }
 
@@ -98,7 +98,7 @@ void SaveAs() {
   dialog.FileName = DocumentName::IsUnsaved(editor->Caption()) ? QString() : editor->Caption();
   if (!NameByDialog(editor)) return;
   editor->SetCaption(dialog.FileName);
-  editor->txthtml->SaveFile(editor->Caption());
+  editor->journal->Saved(editor->txthtml->SaveFile(editor->Caption()));
   mPublic::aEditorState[editor->Slot()].changed = false;
   RebuildOpenFilesTree();
 }

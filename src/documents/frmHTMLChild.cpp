@@ -78,6 +78,7 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   client_->setMouseTracking(true);
   client_->installEventFilter(this);
   new EditorEvents(this);
+  journal = new DocumentJournal(this);
   rtfLineNumber->viewport()->installEventFilter(this);
   // Beside the key that the toolkit's own window menu has for it.
   auto *closeKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
@@ -225,9 +226,11 @@ bool frmHTMLChild::QueryUnload(UnloadMode) {
       switch (AskWhetherToSave()) {
         case Dialogs::Answer::Yes:
           // The text must not go down with a file that couldn't be written.
-          if (!WriteWholeFile(caption_, PrintedText(txthtml->Text()))) return false;
-          [[fallthrough]];
+          if (!journal->Saved(WriteWholeFile(caption_, PrintedText(txthtml->Text())))) return false;
+          state = {};
+          break;
         case Dialogs::Answer::No:
+          journal->GivenUp();
           state = {};
           break;
         default:
@@ -241,5 +244,6 @@ bool frmHTMLChild::QueryUnload(UnloadMode) {
 }
 
 void frmHTMLChild::Unloaded() {
+  journal->Closed();
   mEditors::TakeFromArea(*this);
 }

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QString>
 
+#include "documents/DocumentJournal.h"
 #include "documents/Landmarks.h"
 #include "toolkit/OneAtATime.h"
 #include "toolkit/RichTextBox.h"
@@ -37,6 +38,9 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
 
   /// Where head and body of the page begin and end, in positions of the document.
   Landmarks landmarks;
+
+  /// Keeps what hasn't been saved. Whoever saves the text tells it.
+  DocumentJournal *journal;
 
   /// The slot that the tag names, 0 for a window without one.
   int Slot() const;

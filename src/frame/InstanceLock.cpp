@@ -1,7 +1,5 @@
 #include "frame/InstanceLock.h"
 
-#include <QCryptographicHash>
-#include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
 #include <memory>
@@ -11,10 +9,8 @@
 namespace {
 
 QString LockPath(const QString &programFolder) {
-  const QByteArray folder = QFileInfo(programFolder).canonicalFilePath().toUtf8();
-  const QByteArray hash = QCryptographicHash::hash(folder, QCryptographicHash::Sha256).toHex();
   return mFolders::Join(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation),
-                        QStringLiteral("tagwright-") + QString::fromLatin1(hash.left(16)));
+                        QStringLiteral("tagwright-") + mFolders::Mark(programFolder));
 }
 
 }  // namespace

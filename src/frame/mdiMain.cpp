@@ -23,6 +23,7 @@
 #include "base/mText.h"
 #include "documents/EditCommands.h"
 #include "documents/FileCommands.h"
+#include "documents/Journal.h"
 #include "documents/OpenFilesTree.h"
 #include "documents/Printing.h"
 #include "documents/frmMemoPad.h"
@@ -201,7 +202,10 @@ void mdiMain::timloadStencils_Timer() {
 void mdiMain::showEvent(QShowEvent *event) {
   FormOf::showEvent(event);
   const QString named = mText::Trim(std::exchange(commandLine, {}));
-  if (!named.isEmpty() && QFileInfo(named).isFile()) FileCommands::LoadFileIntoNewEditor(named);
+  const bool opensOne = !named.isEmpty() && QFileInfo(named).isFile();
+  // First, so that the file that the user has asked for stands in front.
+  if (auto *journal = Journal::Current()) journal->OpenLostDocuments(opensOne ? 1 : 0);
+  if (opensOne) FileCommands::LoadFileIntoNewEditor(named);
 }
 
 void mdiMain::AddTreeRoots() {

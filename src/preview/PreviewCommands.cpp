@@ -41,7 +41,7 @@ bool SaveIfWanted(const QPointer<frmHTMLChild> &editor) {
   if (answer == Answer::No) return true;
   if (!DocumentName::IsUnsaved(editor->Caption())) {
     // As it stands: what is shown is what was typed.
-    editor->txthtml->SaveFile(editor->Caption());
+    editor->journal->Saved(editor->txthtml->SaveFile(editor->Caption()));
     mPublic::aEditorState[editor->Slot()].changed = false;
   } else if (!FileCommands::PrintUnderNewName(*editor, PrintedText(editor->txthtml->Text()))) {
     return false;

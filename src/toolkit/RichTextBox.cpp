@@ -157,6 +157,19 @@ QString RichTextBox::Piece(qsizetype start, qsizetype length) const {
   return mText::Mid(WithLineEnds(cursor.selectedText()), start - TextPosition(from) + 1, length);
 }
 
+// Not by a cursor: setting one lays its line out, seen or not.
+QString RichTextBox::DocumentPiece(int start, qsizetype length) const {
+  QString piece;
+  QTextBlock block = document()->findBlock(start);
+  qsizetype column = start - block.position();
+  for (; block.isValid() && piece.size() < length; block = block.next(), column = 0) {
+    const QString line = block.text();
+    piece += QStringView(line).mid(column, length - piece.size());
+    if (piece.size() < length && block.next().isValid()) piece += u'\n';
+  }
+  return piece;
+}
+
 int RichTextBox::CaretLine() const {
   return textCursor().blockNumber();
 }

@@ -78,6 +78,9 @@ class RichTextBox : public QPlainTextEdit {
   int CaretLine() const;
   int FirstVisibleLine() const;
 
+  /// The same in the document's own positions, with a LF for a line end.
+  QString DocumentPiece(int start, qsizetype length) const;
+
   /// Loads a plain text file. False, with the text as it was, if it can't be read or has a line
   /// that is too long.
   bool LoadFile(const QString &path);

@@ -1,0 +1,75 @@
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <algorithm>
+#include <ctime>
+
+#include "Compare.h"
+#include "Keys.h"
+#include "documents/Journal.h"
+#include "toolkit/DoEvents.h"
+
+namespace {
+
+constexpr qsizetype large = 10 << 20;
+constexpr int keys = 200;
+
+// Milliseconds a key, each drawn before the next, in a line of its own near the middle of the text.
+double Type(QPlainTextEdit &box) {
+  static int run = 0;
+  TurnTo(box);
+  const int line = box.document()->blockCount() / 2 + ++run;
+  QTextCursor cursor = box.textCursor();
+  cursor.setPosition(box.document()->findBlockByNumber(line).position());
+  box.setTextCursor(cursor);
+  DoEvents();
+  return Seconds([&box] {
+           for (int key = 0; key < keys; ++key) PressKey(box, Qt::Key_X, QStringLiteral("x"));
+         }) *
+         1000 / keys;
+}
+
+// Milliseconds that this thread has worked; what other programs take from it isn't counted.
+double Worked() {
+  timespec time{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+// Typing rests: the longest turn of the event loop until everything is on the disk.
+double LongestTurn(Journal &journal) {
+  QMetaObject::invokeMethod(journal.timRest, "timeout");
+  double longest = 0;
+  while (journal.IsBusy()) {
+    const double before = Worked();
+    DoEvents();
+    longest = std::max(longest, Worked() - before);
+  }
+  return longest;
+}
+
+}  // namespace
+
+void BenchJournal() {
+  const QTemporaryDir folder;
+  RichTextBox &unkept = OpenDocument(Page(large));
+  Journal journal(folder.path());
+  RichTextBox &kept = OpenDocument(Page(large));
+  Compare(
+      QStringLiteral("a key in 10 MB with the journal against without"), QStringLiteral("ms"), 1.1,
+      [&kept] { return Type(kept); }, [&unkept] { return Type(unkept); });
+  const auto longestTurnAfter = [&](const QString &text) {
+    return [&, text] {
+      journal.WriteNow();
+      kept.SetSelText(text);
+      DoEvents();
+      return LongestTurn(journal);
+    };
+  };
+  Measure(QStringLiteral("longest turn while a key's edit is written"), QStringLiteral("ms"), 10,
+          longestTurnAfter(QStringLiteral("x")));
+  // A text too large for one edit has the whole document written anew.
+  Measure(QStringLiteral("longest turn while all of 10 MB is written"), QStringLiteral("ms"), 10,
+          longestTurnAfter(QString(100'000, u'x') + u'\n'));
+  for (RichTextBox *box : {&unkept, &kept}) Close(*box);
+}

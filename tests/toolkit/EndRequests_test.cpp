@@ -1,0 +1,55 @@
+#include "toolkit/EndRequests.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+#include <csignal>
+
+#include "toolkit/DoEvents.h"
+
+namespace {
+
+TEST(EndRequests, ASignalEndsEvenADialogAndTheNextOneHasItsDefaultAction) {
+  for (const int request : {SIGTERM, SIGHUP, SIGINT}) {
+    QDialog dialog;
+    int ends = 0;
+    const EndRequests requests([] {},
+                               [&] {
+                                 ++ends;
+                                 dialog.reject();
+                               });
+    QTimer::singleShot(0, [request] { std::raise(request); });
+    dialog.exec();
+    EXPECT_EQ(ends, 1);
+    for (const int next : {SIGTERM, SIGHUP, SIGINT}) {
+      EXPECT_EQ(std::signal(next, SIG_DFL), SIG_DFL) << request << ' ' << next;
+    }
+  }
+}
+
+TEST(EndRequests, AHangupThatIsIgnoredStaysSo) {
+  std::signal(SIGHUP, SIG_IGN);
+  {
+    const EndRequests requests([] {}, [] { ADD_FAILURE(); });
+    std::raise(SIGHUP);
+    DoEvents();
+  }
+  EXPECT_EQ(std::signal(SIGHUP, SIG_DFL), SIG_IGN);
+  EXPECT_EQ(std::signal(SIGTERM, SIG_DFL), SIG_DFL);
+}
+
+// What the toolkit makes of the desktop's last word in a logout.
+TEST(EndRequests, TheDesktopsQuitEndsWithoutClosingWindows) {
+  QDialog window;
+  window.show();
+  int ends = 0;
+  const EndRequests requests([] {}, [&ends] { ++ends; });
+  QEvent quit(QEvent::Quit);
+  QCoreApplication::sendEvent(qApp, &quit);
+  EXPECT_EQ(ends, 1);
+  EXPECT_TRUE(window.isVisible());
+}
+
+}  // namespace
