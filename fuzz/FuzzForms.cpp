@@ -1,5 +1,8 @@
+#include <sanitizer/lsan_interface.h>
+
 #include <QApplication>
 #include <QDir>
+#include <cstdlib>
 
 #include "Fuzz.h"
 #include "toolkit/Dialogs.h"
@@ -19,6 +22,12 @@ class NoDialogs : public Dialogs {
 
 }  // namespace
 
+// The library that looks for fonts holds what it has found by pointers that a leak checker can't
+// see.
+extern "C" const char *__lsan_default_suppressions() {
+  return "leak:libfontconfig.so";
+}
+
 // Before the first input of a target with windows, which find the delivered files.
 extern "C" int LLVMFuzzerInitialize(int *count, char ***arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -34,5 +43,8 @@ extern "C" int LLVMFuzzerInitialize(int *count, char ***arguments) {
   static QApplication application(*count, *arguments);
   application.setQuitOnLastWindowClosed(false);
   Dialogs::Set(std::make_unique<NoDialogs>());
+  // The toolkit's own static objects don't stand being taken down behind the application.
+  on_exit([](int status, void *) { std::_Exit(__lsan_do_recoverable_leak_check() ? 1 : status); },
+          nullptr);
   return 0;
 }

@@ -6,6 +6,10 @@
 #include "stencils/StencilSearch.h"
 #include "stencils/mStencilBuilder.h"
 
+namespace {
+constexpr qint64 lookedUp = 6;  // records; each look-up reads the file
+}
+
 void Try(Input &input) {
   const QString path = Path(StencilFiles::SelfBuilt);
   QString key = TakeText(input, 100);
@@ -21,6 +25,7 @@ void Try(Input &input) {
   qint64 records = 0;
   StencilFile(path).Scan(1, [&](qint64 n, const StencilRecord &record) {
     Require(n == ++records, "records are counted from 1");
+    if (n > lookedUp) return true;
     Require(ExportRow(record, ";").size() >= 108, "a row has its columns");
     const QString next = StencilFiles::NextFreeStencilKey(path, record.Key.Trimmed());
     Require(next == StencilFiles::NoKey || !StencilFiles::FindStencil(path, next),

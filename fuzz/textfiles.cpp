@@ -1,4 +1,4 @@
-// Documents as files: any bytes are loaded, shown, written as they were, and printed so that the
+// Documents as files: any bytes are loaded, written as they were, and printed so that the
 // file's length settles.
 
 #include "Fuzz.h"
@@ -25,7 +25,6 @@ void Try(Input &input) {
   Require(FileBytes(path) == WithLineEnds(QByteArray::fromStdString(bytes)),
           "loading and saving keeps all bytes");
   Require(box.TextLength() == box.Text().size(), "positions count the text's characters");
-  box.grab();
 
   const QByteArray printed = PrintedText(box.Text());
   PutFile(path, printed);
