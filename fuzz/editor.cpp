@@ -2,6 +2,7 @@
 // colouring pass on: the text and everything that follows it stay in step.
 
 #include <QApplication>
+#include <QClipboard>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTextBlock>
@@ -191,13 +192,15 @@ frmHTMLChild &Editor() {
 }  // namespace
 
 void Try(Input &input) {
+  constexpr qsizetype longest = 10'000;  // pasting doubles a text again and again
+  QApplication::clipboard()->clear();    // what the input before has left there
   frmHTMLChild &editor = Editor();
   RichTextBox &box = *editor.txthtml;
   box.SetText(TakeText(input, 2000));
   editor.lineOfLastPass = 0;
   mPublic::TagHighlight = {0, 1, 1, 1};
   const QString before = box.Text();
-  while (input.remaining_bytes() > 0) {
+  while (input.remaining_bytes() > 0 && box.TextLength() < longest) {
     Act(editor, input);
     CheckInStep(editor);
   }
