@@ -50,7 +50,7 @@ frmInsertTable::frmInsertTable() : DialogForm(Default<mdiMain>()) {
   }
   FillWithCaptions(*lstBorderRules, TableText::Frames());
   FillWithCaptions(*lstCellpaddingRules, TableText::Rules());
-  const auto enables = [this](QAbstractButton *button, std::initializer_list<QWidget *> widgets) {
+  const auto enables = [](QAbstractButton *button, std::initializer_list<QWidget *> widgets) {
     for (QWidget *widget : widgets) {
       widget->setEnabled(button->isChecked());
       connect(button, &QAbstractButton::toggled, widget, &QWidget::setEnabled);
