@@ -76,18 +76,6 @@ TEST_F(JournalFileTest, ALivingProcessKeepsItsOwn) {
   EXPECT_EQ(Names().size(), 3);
 }
 
-TEST_F(JournalFileTest, OneThatIsTakenOverGoesOnOrBeginsAnew) {
-  Leave(QStringLiteral("abc"));
-  auto found = JournalFile::TakeOver(JournalFile::In(path).value(0));
-  ASSERT_TRUE(found);
-  EXPECT_TRUE(Texts().isEmpty()) << "it is this process's now";
-  Put(*found->file, QStringLiteral("new"));
-  found->file->Append(JournalRecords::OfEdit({3, 0, QStringLiteral("er")}));
-  found.reset();
-  EXPECT_EQ(Texts(), QStringList{QStringLiteral("newer")});
-  EXPECT_EQ(Names().size(), 1);
-}
-
 TEST_F(JournalFileTest, WhatCannotBeReadIsSetAside) {
   Leave(QStringLiteral("torn"));
   const QString torn = JournalFile::In(path).value(0);

@@ -134,17 +134,17 @@ TEST_F(JournalTest, OnlyTheUsersWordOrASaveRemovesAText) {
     dialogs.answers.push_front(Answer::Yes);
     FileCommands::Save();
   };
-  const auto saveAs = [this](const QString &name) {
-    return [this, name](frmHTMLChild *) {
+  const auto saveInto = [this](void (*command)(), const QString &name) {
+    return [this, command, name](frmHTMLChild *) {
       dialogs.files = {Path(name)};
-      FileCommands::SaveAs();
+      command();
     };
   };
-  const auto saveAll = [this](const QString &name) {
-    return [this, name](frmHTMLChild *) {
-      dialogs.files = {Path(name)};
-      FileCommands::SaveAll();
-    };
+  const auto saveAs = [&](const char *name) {
+    return saveInto(&FileCommands::SaveAs, QLatin1String(name));
+  };
+  const auto saveAll = [&](const char *name) {
+    return saveInto(&FileCommands::SaveAll, QLatin1String(name));
   };
   const auto preview = [this](frmHTMLChild *) {
     ScriptedPrograms::Install().toFile = Programs::Application{QStringLiteral("viewer")};
@@ -167,11 +167,15 @@ TEST_F(JournalTest, OnlyTheUsersWordOrASaveRemovesAText) {
            Case{"saved", {save}, {}, none},
            Case{"saved, then typed in", {save, type}, {}, QStringLiteral("a.html: xyold")},
            Case{"not saved", {[](frmHTMLChild *) { FileCommands::Save(); }}, {Answer::No}, a},
-           Case{"saved elsewhere", {saveAs(QStringLiteral("b.html"))}, {}, none},
-           Case{"saved with all", {saveAll(QStringLiteral("b.html"))}, {Answer::Yes}, none},
+           Case{"saved elsewhere", {saveAs("b.html")}, {}, none},
+           Case{"saved with all", {saveAll("b.html")}, {Answer::Yes}, none},
            Case{"saved for the preview", {preview}, {Answer::Yes}, none},
            Case{"closed with Cancel", {close}, {Answer::Cancel}, a},
            Case{"closed with No", {close}, {Answer::No}, none},
+           Case{"closed, never saved",
+                {[](frmHTMLChild *editor) { editor->SetCaption(unsaved); }, close},
+                {},
+                none},
            Case{"closed with Yes", {close}, {Answer::Yes}, none},
            Case{"all closed with No", {closeAll}, {Answer::No}, none},
            Case{"closed with Yes, unwritable", {rename, close}, {Answer::Yes}, b},
@@ -179,20 +183,14 @@ TEST_F(JournalTest, OnlyTheUsersWordOrASaveRemovesAText) {
            // A save that fails clears the mark, so the window closes without a question.
            Case{"unwritable", {rename, save}, {}, b},
            Case{"unwritable, closed", {rename, save, close}, {}, b},
-           Case{"unwritable elsewhere", {saveAs(QStringLiteral("gone/b.html")), close}, {}, b},
-           Case{"unwritable with all",
-                {saveAll(QStringLiteral("gone/b.html")), close},
-                {Answer::Yes},
-                b},
+           Case{"unwritable elsewhere", {saveAs("gone/b.html"), close}, {}, b},
+           Case{"unwritable with all", {saveAll("gone/b.html"), close}, {Answer::Yes}, b},
            Case{"unwritable for the preview", {rename, preview, close}, {Answer::Yes}, b},
            Case{"unwritable, typed in, closed with No",
                 {rename, save, type, close},
                 {Answer::No},
                 none},
-           Case{"unwritable, then saved",
-                {rename, save, saveAs(QStringLiteral("c")), close},
-                {},
-                none},
+           Case{"unwritable, then saved", {rename, save, saveAs("c"), close}, {}, none},
            Case{"quit with Cancel", {quit}, {Answer::Yes, Answer::Cancel}, a},
            Case{"quit with No", {quit}, {Answer::Yes, Answer::No}, none},
            Case{"quit with Yes", {quit}, {Answer::Yes, Answer::Yes}, none},
@@ -220,16 +218,6 @@ TEST_F(JournalTest, OnlyTheUsersWordOrASaveRemovesAText) {
     main->show();
     DoEvents();
   }
-}
-
-TEST_F(JournalTest, AnUnsavedDocumentThatTheUserClosesIsGone) {
-  frmHTMLChild *editor = OpenUnsaved({});
-  Type(editor, QStringLiteral("x"));
-  Rest();
-  EXPECT_EQ(Kept().size(), 1);
-  editor->close();
-  journal->WriteNow();
-  EXPECT_TRUE(Kept().isEmpty());
 }
 
 TEST_F(JournalTest, WhatIsEditedWhileTheTextIsCopiedIsKeptToTheLetter) {
