@@ -47,6 +47,7 @@ int main(int argc, char **argv) {
   if (!Default<frmStart>()->MayStart()) return 1;
   Default<mdiMain>()->timloadStencils->stop();
   DoEvents();
+  if (wanted("memory")) BenchMemory();
   if (wanted("typing")) BenchTyping();
   if (wanted("colouring")) BenchColouring();
   if (wanted("moves")) BenchMoves();

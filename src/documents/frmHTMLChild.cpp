@@ -1,10 +1,13 @@
 #include "documents/frmHTMLChild.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QMdiArea>
+#include <QMenu>
 #include <QPointer>
 #include <QShortcut>
 #include <QTextCursor>
+#include <QTimer>
 
 #include "base/WholeFile.h"
 #include "base/mText.h"
@@ -79,8 +82,14 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   client_->installEventFilter(this);
   new EditorEvents(this);
   rtfLineNumber->viewport()->installEventFilter(this);
-  // Beside the key that the toolkit's own window menu has for it.
-  auto *closeKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
+  // The toolkit's own window menu has this key on some desktops, and that only while it can be seen;
+  // a key that two have does nothing.
+  const QKeySequence close(Qt::CTRL | Qt::Key_F4);
+  for (QAction *entry : systemMenu()->actions()) {
+    QList<QKeySequence> keys = entry->shortcuts();
+    if (keys.removeAll(close) > 0) entry->setShortcuts(keys);
+  }
+  auto *closeKey = new QShortcut(close, this);
   closeKey->setContext(Qt::WidgetWithChildrenShortcut);
   connect(closeKey, &QShortcut::activated, this, &QWidget::close);
   connect(txthtml, &RichTextBox::Edited, this, &frmHTMLChild::FollowLandmarks);
@@ -119,34 +128,23 @@ void frmHTMLChild::PlaceBoxes() {
   DoEvents();
 }
 
+// Lets no events run and closes nothing: the toolkit sizes a window in the middle of its work on
+// all of them, and loses count when one comes or goes there.
 void frmHTMLChild::Resize() {
   if (IsUnloaded()) return;
   if (Slot() == 0) {
-    Unload(*this);
+    QTimer::singleShot(0, this, [this] { Unload(*this); });
     return;
   }
   if (mPublic::bAppClosing || Slot() < 0) return;
   mPublic::iActualEditor = Slot();
-  const QPointer<frmHTMLChild> self(this);
-  const auto pumped = [&self] { return StandsAfterEvents(self); };
-  // The outline is still that of the old size, and what is drawn while pumping would end there. The
-  // window gets the new one when this is over.
+  // The outline is still that of the old size; the window gets the new one when this is over.
   clearMask();
-  if (!pumped()) return;
-  txthtml->move(51, -1);
-  if (!pumped()) return;
-  txthtml->resize(txthtml->width(), client_->height() + 2);
-  if (!pumped()) return;
-  txthtml->resize(client_->width() - 50, txthtml->height());
-  if (!pumped()) return;
+  txthtml->setGeometry(51, -1, client_->width() - 50, client_->height() + 2);
   txthtml->viewport()->update();
   rtfLineNumber->setFont(txthtml->font());
-  rtfLineNumber->move(-1, 2);
-  if (!pumped()) return;
-  rtfLineNumber->resize(54, client_->height() - 16);
-  if (!pumped()) return;
+  rtfLineNumber->setGeometry(-1, 2, 54, client_->height() - 16);
   rtfLineNumber->setPlainText(LineNumberText(1, AllLineNumbers));
-  if (!pumped()) return;
   // The numbers begin at 1 now, which is wrong for a text that is scrolled.
   firstNumberedLine = 0;
   SyncLineNumbers(AllLineNumbers);
@@ -186,8 +184,7 @@ bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
     return true;
   }
   if (watched == client_ && event->type() == QEvent::Resize) {
-    // Pumping lets the next size arrive in the middle; it is handled when this one is done.
-    resize_.Run([this] { Resize(); });
+    Resize();
   } else if (watched == client_ && event->type() == QEvent::MouseMove) {
     RepairLayout();
   }

@@ -5,7 +5,6 @@
 #include <QString>
 
 #include "documents/Landmarks.h"
-#include "toolkit/OneAtATime.h"
 #include "toolkit/RichTextBox.h"
 #include "toolkit/mForms.h"
 
@@ -71,5 +70,4 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
 
   QString caption_;
   QWidget *client_;
-  OneAtATime resize_;
 };
