@@ -1,10 +1,11 @@
 #include "documents/frmHTMLChild.h"
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QMdiArea>
 #include <QMenu>
 #include <QPointer>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTextCursor>
 #include <QTimer>
@@ -28,9 +29,23 @@ namespace {
 constexpr int textMargin = 4;
 constexpr int lineNumberMargin = 1;
 
-// Tag colours are made for black on white, whatever the desktop's scheme.
+// Tag colours are made for black on white, whatever the desktop's scheme. All windows share one
+// palette with nothing left to inherit: the toolkit keeps pictures of scroll bars by their palette,
+// and never forgets what it has called them.
 QPalette Paper() {
-  QPalette paper;
+  static QPalette paper;
+  static qint64 madeFrom = 0;
+  const QPalette desktop = QApplication::palette();
+  if (desktop.cacheKey() == madeFrom) return paper;
+  madeFrom = desktop.cacheKey();
+  paper = desktop;
+  for (int group = 0; group < QPalette::NColorGroups; ++group) {
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+      const auto of = QPalette::ColorGroup(group);
+      const auto as = QPalette::ColorRole(role);
+      paper.setBrush(of, as, desktop.brush(of, as));
+    }
+  }
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
   return paper;
@@ -41,7 +56,6 @@ void SetUpBox(RichTextBox &box, const char *name, int margin) {
   box.setFont(QFont(QStringLiteral("Courier New"), 10));
   box.setFrameShape(QFrame::NoFrame);
   box.SetMargin(margin, margin);
-  box.setPalette(Paper());
 }
 
 // Pumps events. Whether the window is still there then.
@@ -73,7 +87,7 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   cmdDummy->setObjectName(QStringLiteral("cmdDummy"));
   cmdDummy->hide();
 
-  client_->setPalette(Paper());
+  UsePaper();
   client_->setBackgroundRole(QPalette::Base);
   client_->setAutoFillBackground(true);
   setWidget(client_);
@@ -82,8 +96,8 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   client_->installEventFilter(this);
   new EditorEvents(this);
   rtfLineNumber->viewport()->installEventFilter(this);
-  // The toolkit's own window menu has this key on some desktops, and that only while it can be seen;
-  // a key that two have does nothing.
+  // The toolkit's own window menu has this key on some desktops, and that only while it can be
+  // seen; a key that two have does nothing.
   const QKeySequence close(Qt::CTRL | Qt::Key_F4);
   for (QAction *entry : systemMenu()->actions()) {
     QList<QKeySequence> keys = entry->shortcuts();
@@ -189,6 +203,19 @@ bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
     RepairLayout();
   }
   return FormOf::eventFilter(watched, event);
+}
+
+void frmHTMLChild::changeEvent(QEvent *event) {
+  FormOf::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) UsePaper();
+}
+
+void frmHTMLChild::UsePaper() {
+  for (QWidget *widget :
+       std::initializer_list<QWidget *>{client_, txthtml, txthtml->verticalScrollBar(),
+                                        txthtml->horizontalScrollBar(), rtfLineNumber}) {
+    widget->setPalette(Paper());
+  }
 }
 
 void frmHTMLChild::FollowLandmarks(int position, int removed, int added) {

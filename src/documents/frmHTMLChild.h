@@ -62,10 +62,12 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void changeEvent(QEvent *event) override;
 
  private:
   void Resize();
   void RepairLayout();
+  void UsePaper();
   void FollowLandmarks(int position, int removed, int added);
 
   QString caption_;

@@ -1,5 +1,7 @@
+#include <QApplication>
 #include <QPointer>
 
+#include "frame/ProgramIcon.h"
 #include "shared/AllForms.h"
 #include "shared/StencilFormsTest.h"
 
@@ -17,6 +19,7 @@ class LeaksTest : public StencilFormsTest {
     DoEvents();
     dialogs.answers = {Dialogs::Answer::Yes};  // the memo pad asks
     Unload(*dynamic_cast<Form *>(form.data()));
+    dialogs.messages.clear();
     mForms::DestroyLaidAside();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(form);
@@ -43,6 +46,20 @@ TEST_F(LeaksTest, FormsGiveBackAllTheyTook) {
         << "form " << name.constData();
   }
   PutFile(StencilFiles::StandardPath(), library);
+}
+
+TEST_F(LeaksTest, DocumentsGiveBackAllTheyTook) {
+  QApplication::setWindowIcon(ProgramIcon());  // or each window has one of its own
+  constexpr int rounds = 100;
+  size_t after = 0;
+  for (int round = 1; round <= rounds; ++round) {
+    frmHTMLChild *editor = Open(QStringLiteral("a.html"), QByteArray(500, 'x'));
+    editor->txthtml->SetSelText(QStringLiteral("<b>typed</b>"));
+    Unload(*editor);
+    QCoreApplication::processEvents();
+    if (round == rounds / 2) after = __sanitizer_get_current_allocated_bytes();
+  }
+  EXPECT_LE(__sanitizer_get_current_allocated_bytes(), after + 64 * rounds);
 }
 
 }  // namespace
