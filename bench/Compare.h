@@ -55,6 +55,7 @@ void BenchArrange();
 void BenchAssistants();
 void BenchCompiler();
 void BenchImages();
+void BenchMemory();
 
 int PlayStart();
 int PlayOpening(const QString &file);

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int pumpsOfASize = 7;
 constexpr int pumpsOfAText = 4;
 
 void Pump(int times) {
@@ -41,9 +40,7 @@ void PlaceBare(QMdiSubWindow &window, const QRect &place) {
   window.move(place.x(), window.y());
   window.move(window.x(), place.y());
   for (const QSize &size : {QSize(window.width(), place.height()), place.size()}) {
-    if (window.size() == size) continue;
     window.resize(size);
-    Pump(pumpsOfASize);
   }
   Pump(pumpsOfAText);
 }

@@ -7,6 +7,7 @@
 
 #include "Compare.h"
 #include "base/mFolders.h"
+#include "frame/ProgramIcon.h"
 #include "frame/frmStart.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
@@ -31,6 +32,7 @@ void PrepareProgramFolder(const QTemporaryDir &folder) {
 
 int main(int argc, char **argv) {
   QApplication application(argc, argv);
+  QApplication::setWindowIcon(ProgramIcon());
   const QStringList arguments = QCoreApplication::arguments();
   if (arguments.size() == 2 && arguments[1] == QLatin1String("play-start")) return PlayStart();
   if (arguments.size() == 3 && arguments[1] == QLatin1String("open"))
@@ -47,6 +49,7 @@ int main(int argc, char **argv) {
   if (!Default<frmStart>()->MayStart()) return 1;
   Default<mdiMain>()->timloadStencils->stop();
   DoEvents();
+  if (wanted("memory")) BenchMemory();
   if (wanted("typing")) BenchTyping();
   if (wanted("journal")) BenchJournal();
   if (wanted("colouring")) BenchColouring();

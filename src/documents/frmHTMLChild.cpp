@@ -1,10 +1,14 @@
 #include "documents/frmHTMLChild.h"
 
-#include <QCoreApplication>
+#include <QAction>
+#include <QApplication>
 #include <QMdiArea>
+#include <QMenu>
 #include <QPointer>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTextCursor>
+#include <QTimer>
 
 #include "base/WholeFile.h"
 #include "base/mText.h"
@@ -25,9 +29,23 @@ namespace {
 constexpr int textMargin = 4;
 constexpr int lineNumberMargin = 1;
 
-// Tag colours are made for black on white, whatever the desktop's scheme.
+// Tag colours are made for black on white, whatever the desktop's scheme. All windows share one
+// palette with nothing left to inherit: the toolkit keeps pictures of scroll bars by their palette,
+// and never forgets what it has called them.
 QPalette Paper() {
-  QPalette paper;
+  static QPalette paper;
+  static qint64 madeFrom = 0;
+  const QPalette desktop = QApplication::palette();
+  if (desktop.cacheKey() == madeFrom) return paper;
+  madeFrom = desktop.cacheKey();
+  paper = desktop;
+  for (int group = 0; group < QPalette::NColorGroups; ++group) {
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+      const auto of = QPalette::ColorGroup(group);
+      const auto as = QPalette::ColorRole(role);
+      paper.setBrush(of, as, desktop.brush(of, as));
+    }
+  }
   paper.setColor(QPalette::Base, Qt::white);
   paper.setColor(QPalette::Text, Qt::black);
   return paper;
@@ -38,7 +56,6 @@ void SetUpBox(RichTextBox &box, const char *name, int margin) {
   box.setFont(QFont(QStringLiteral("Courier New"), 10));
   box.setFrameShape(QFrame::NoFrame);
   box.SetMargin(margin, margin);
-  box.setPalette(Paper());
 }
 
 // Pumps events. Whether the window is still there then.
@@ -70,7 +87,7 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   cmdDummy->setObjectName(QStringLiteral("cmdDummy"));
   cmdDummy->hide();
 
-  client_->setPalette(Paper());
+  UsePaper();
   client_->setBackgroundRole(QPalette::Base);
   client_->setAutoFillBackground(true);
   setWidget(client_);
@@ -80,8 +97,14 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   new EditorEvents(this);
   journal = new DocumentJournal(this);
   rtfLineNumber->viewport()->installEventFilter(this);
-  // Beside the key that the toolkit's own window menu has for it.
-  auto *closeKey = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
+  // The toolkit's own window menu has this key on some desktops, and that only while it can be
+  // seen; a key that two have does nothing.
+  const QKeySequence close(Qt::CTRL | Qt::Key_F4);
+  for (QAction *entry : systemMenu()->actions()) {
+    QList<QKeySequence> keys = entry->shortcuts();
+    if (keys.removeAll(close) > 0) entry->setShortcuts(keys);
+  }
+  auto *closeKey = new QShortcut(close, this);
   closeKey->setContext(Qt::WidgetWithChildrenShortcut);
   connect(closeKey, &QShortcut::activated, this, &QWidget::close);
   connect(txthtml, &RichTextBox::Edited, this, &frmHTMLChild::FollowLandmarks);
@@ -120,34 +143,23 @@ void frmHTMLChild::PlaceBoxes() {
   DoEvents();
 }
 
+// Lets no events run and closes nothing: the toolkit sizes a window in the middle of its work on
+// all of them, and loses count when one comes or goes there.
 void frmHTMLChild::Resize() {
   if (IsUnloaded()) return;
   if (Slot() == 0) {
-    Unload(*this);
+    QTimer::singleShot(0, this, [this] { Unload(*this); });
     return;
   }
   if (mPublic::bAppClosing || Slot() < 0) return;
   mPublic::iActualEditor = Slot();
-  const QPointer<frmHTMLChild> self(this);
-  const auto pumped = [&self] { return StandsAfterEvents(self); };
-  // The outline is still that of the old size, and what is drawn while pumping would end there. The
-  // window gets the new one when this is over.
+  // The outline is still that of the old size; the window gets the new one when this is over.
   clearMask();
-  if (!pumped()) return;
-  txthtml->move(51, -1);
-  if (!pumped()) return;
-  txthtml->resize(txthtml->width(), client_->height() + 2);
-  if (!pumped()) return;
-  txthtml->resize(client_->width() - 50, txthtml->height());
-  if (!pumped()) return;
+  txthtml->setGeometry(51, -1, client_->width() - 50, client_->height() + 2);
   txthtml->viewport()->update();
   rtfLineNumber->setFont(txthtml->font());
-  rtfLineNumber->move(-1, 2);
-  if (!pumped()) return;
-  rtfLineNumber->resize(54, client_->height() - 16);
-  if (!pumped()) return;
+  rtfLineNumber->setGeometry(-1, 2, 54, client_->height() - 16);
   rtfLineNumber->setPlainText(LineNumberText(1, AllLineNumbers));
-  if (!pumped()) return;
   // The numbers begin at 1 now, which is wrong for a text that is scrolled.
   firstNumberedLine = 0;
   SyncLineNumbers(AllLineNumbers);
@@ -187,12 +199,24 @@ bool frmHTMLChild::eventFilter(QObject *watched, QEvent *event) {
     return true;
   }
   if (watched == client_ && event->type() == QEvent::Resize) {
-    // Pumping lets the next size arrive in the middle; it is handled when this one is done.
-    resize_.Run([this] { Resize(); });
+    Resize();
   } else if (watched == client_ && event->type() == QEvent::MouseMove) {
     RepairLayout();
   }
   return FormOf::eventFilter(watched, event);
+}
+
+void frmHTMLChild::changeEvent(QEvent *event) {
+  FormOf::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) UsePaper();
+}
+
+void frmHTMLChild::UsePaper() {
+  for (QWidget *widget :
+       std::initializer_list<QWidget *>{client_, txthtml, txthtml->verticalScrollBar(),
+                                        txthtml->horizontalScrollBar(), rtfLineNumber}) {
+    widget->setPalette(Paper());
+  }
 }
 
 void frmHTMLChild::FollowLandmarks(int position, int removed, int added) {

@@ -6,7 +6,6 @@
 
 #include "documents/DocumentJournal.h"
 #include "documents/Landmarks.h"
-#include "toolkit/OneAtATime.h"
 #include "toolkit/RichTextBox.h"
 #include "toolkit/mForms.h"
 
@@ -67,13 +66,14 @@ class frmHTMLChild : public FormOf<QMdiSubWindow> {
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void changeEvent(QEvent *event) override;
 
  private:
   void Resize();
   void RepairLayout();
+  void UsePaper();
   void FollowLandmarks(int position, int removed, int added);
 
   QString caption_;
   QWidget *client_;
-  OneAtATime resize_;
 };

@@ -1,3 +1,7 @@
+#include <QMdiArea>
+#include <QMenu>
+#include <QTimer>
+
 #include "shared/FormsTest.h"
 #include "shared/Limits.h"
 
@@ -108,6 +112,30 @@ TEST_F(ClosingTest, AWindowWithoutASlotUnloadsAtItsFirstResize) {
   DoEvents();
   EXPECT_TRUE(!stray || stray->IsUnloaded());
   EXPECT_TRUE(main->mdiArea->subWindowList().isEmpty());
+}
+
+// The area loses count of a window that comes or goes while it sizes another.
+TEST_F(ClosingTest, NoEventRunsWhileAWindowIsSized) {
+  frmHTMLChild *editor = Open(QStringLiteral("a.html"), page);
+  QPointer<frmHTMLChild> other = Open(QStringLiteral("b.html"), page);
+  QTimer::singleShot(0, other, [other] { other->close(); });
+  for (const QSize &size : {QSize(500, 300), QSize(600, 400)}) editor->resize(size);
+  editor->showMaximized();
+  EXPECT_FALSE(other->IsUnloaded());
+  DoEvents();
+  EXPECT_TRUE(!other || other->IsUnloaded());
+}
+
+// On some desktops the toolkit's window menu has the key as well, and then neither takes it.
+TEST_F(ClosingTest, OneAloneHasTheKeyThatCloses) {
+  const QPointer<frmHTMLChild> editor = Open(QStringLiteral("a.html"), page);
+  const QKeySequence key(Qt::CTRL | Qt::Key_F4);
+  for (const QAction *entry : editor->systemMenu()->actions()) {
+    EXPECT_FALSE(entry->shortcuts().contains(key)) << qPrintable(entry->text());
+  }
+  dialogs.answers = {Answer::No};  // a key counts as a change
+  QTest::keyClick(editor->txthtml, Qt::Key_F4, Qt::ControlModifier);
+  EXPECT_TRUE(!editor || editor->IsUnloaded());
 }
 
 }  // namespace

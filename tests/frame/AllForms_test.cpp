@@ -13,34 +13,9 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "assistants/frmColors.h"
-#include "assistants/frmFontcolors.h"
-#include "assistants/frmInsertFrame.h"
-#include "assistants/frmInsertHorRule.h"
-#include "assistants/frmInsertImage.h"
-#include "assistants/frmInsertLink.h"
-#include "assistants/frmInsertList.h"
-#include "assistants/frmInsertTable.h"
-#include "assistants/frmMetaTags.h"
-#include "assistants/frmSpecialCharacters.h"
-#include "documents/frmMemoPad.h"
-#include "documents/frmNewEditorWindow.h"
-#include "documents/frmSearch.h"
-#include "frame/frmInfo.h"
-#include "frame/frmLanguage.h"
-#include "frame/frmPathSelect.h"
-#include "frame/frmPreferences.h"
-#include "images/frmImageSinglePreview.h"
-#include "images/frmImageViewer.h"
-#include "java/frmDebuggingInfo.h"
+#include "shared/AllForms.h"
 #include "shared/StencilFormsTest.h"
 #include "stencils/LoadStencilTrees.h"
-#include "stencils/frmExport.h"
-#include "stencils/frmQuickBar.h"
-#include "stencils/frmQuickbarEditor.h"
-#include "stencils/frmSelfStencilBuilder.h"
-#include "stencils/frmStencilsSearch.h"
-#include "stencils/frmTagDescription.h"
 
 namespace {
 
@@ -80,13 +55,6 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
     mForms::DestroyAll();
     QApplication::setPalette(before.palette);
     QApplication::setFont(before.font);
-  }
-
-  template <class F>
-  static QWidget *Shown() {
-    auto *form = Default<F>();
-    form->show();
-    return form;
   }
 
   void LookAtPages(QWidget *form) {
@@ -187,35 +155,7 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
 
 TEST_P(AllFormsTest, NothingIsCutCoveredOrWithoutAName) {
   LookAtPages(main);
-  QWidget *(*const forms[])() = {
-      &Shown<frmNewEditorWindow>,
-      &Shown<frmSearch>,
-      &Shown<frmMemoPad>,
-      &Shown<frmPreferences>,
-      &Shown<frmPathSelect>,
-      &Shown<frmInfo>,
-      &Shown<frmLanguage>,
-      &Shown<frmInsertFrame>,
-      &Shown<frmInsertTable>,
-      &Shown<frmInsertList>,
-      &Shown<frmInsertImage>,
-      &Shown<frmInsertLink>,
-      &Shown<frmInsertHorRule>,
-      &Shown<frmMetaTags>,
-      &Shown<frmColors>,
-      &Shown<frmFontcolors>,
-      &Shown<frmSpecialCharacters>,
-      &Shown<frmStencilsSearch>,
-      &Shown<frmSelfStencilBuilder>,
-      &Shown<frmQuickBar>,
-      &Shown<frmQuickbarEditor>,
-      &Shown<frmExport>,
-      &Shown<frmTagDescription>,
-      &Shown<frmImageViewer>,
-      &Shown<frmImageSinglePreview>,
-      &Shown<frmDebuggingInfo>,
-  };
-  for (const auto show : forms) {
+  for (const auto show : AllForms()) {
     QPointer<QWidget> form = show();
     DoEvents();
     ASSERT_TRUE(form && form->isVisible());
