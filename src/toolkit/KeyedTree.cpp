@@ -20,6 +20,7 @@ KeyedTree::KeyedTree(QWidget *parent) : QTreeWidget(parent) {
 void KeyedTree::ClearNodes() {
   nodes_.clear();
   byKey_.clear();
+  widest_ = 0;
   clear();
 }
 
@@ -81,4 +82,16 @@ void KeyedTree::ExpandWhatIsThere() {
   for (const QPersistentModelIndex &node : nodes) {
     if (node.isValid()) expand(node);
   }
+}
+
+void KeyedTree::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) widest_ = 0;
+  QTreeWidget::changeEvent(event);
+}
+
+// Never less than before: a scroll bar that comes for a long row may cover it, and would go again
+// for the rows that are left, and come again, without end.
+int KeyedTree::sizeHintForColumn(int column) const {
+  widest_ = std::max(widest_, QTreeWidget::sizeHintForColumn(column));
+  return widest_;
 }

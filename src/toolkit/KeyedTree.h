@@ -49,6 +49,8 @@ class KeyedTree : public QTreeWidget {
 
  protected:
   void keyPressEvent(QKeyEvent *event) override;
+  void changeEvent(QEvent *event) override;
+  int sizeHintForColumn(int column) const override;
 
  private:
   void ExpandWhatIsThere();
@@ -56,4 +58,5 @@ class KeyedTree : public QTreeWidget {
   QVector<QIcon> images_;
   std::vector<QTreeWidgetItem *> nodes_;
   QHash<QString, QTreeWidgetItem *> byKey_;
+  mutable int widest_ = 0;  ///< pixels that any row has asked for
 };
