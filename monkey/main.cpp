@@ -4,11 +4,13 @@
 #include <sanitizer/common_interface_defs.h>
 #include <unistd.h>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFile>
 #include <QHashSeed>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <csignal>
 #include <cstdio>
@@ -25,12 +27,20 @@ void Report() {
 }
 
 // A step that takes longer than this, in seconds, hangs.
-constexpr unsigned longestStep = 60;
+constexpr unsigned longestStep = 12;
 
 void Hangs(int) {
   std::fputs("monkey: a step doesn't end\n", stderr);
   __sanitizer_print_stack_trace();
   Report();
+  // What scrolls may come and go without end.
+  for (const QWidget *widget : QApplication::allWidgets()) {
+    const auto *area = qobject_cast<const QAbstractScrollArea *>(widget);
+    if (!area || !area->isVisible()) continue;
+    std::fprintf(stderr, "  %s %s %dx%d, bars to %d and %d\n", area->metaObject()->className(),
+                 qPrintable(area->objectName()), area->width(), area->height(),
+                 area->horizontalScrollBar()->maximum(), area->verticalScrollBar()->maximum());
+  }
   _exit(1);
 }
 
