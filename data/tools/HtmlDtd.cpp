@@ -85,7 +85,7 @@ class DtdReader {
     if (found.hasCaptured(2)) {
       files_.insert(name, value);
     } else if (!texts_.contains(name)) {
-      texts_.insert(name, WithoutComments(value));
+      texts_.insert(name, Expanded(WithoutComments(value)));
     }
   }
 
@@ -115,12 +115,19 @@ class DtdReader {
     return text.remove(comment);
   }
 
-  QString Expanded(QString text) const {
+  /// With the texts of its entities, which were expanded where they were declared.
+  QString Expanded(const QString &text) const {
     static const QRegularExpression entity(u"%([\\w.]+);?"_s);
-    for (auto found = entity.match(text); found.hasMatch(); found = entity.match(text)) {
-      text.replace(found.capturedStart(), found.capturedLength(), texts_.value(found.captured(1)));
+    QString expanded;
+    qsizetype position = 0;
+    for (auto all = entity.globalMatch(text); all.hasNext();) {
+      const auto found = all.next();
+      expanded += QStringView(text).sliced(position, found.capturedStart() - position);
+      expanded += texts_.value(found.captured(1));
+      position = found.capturedEnd();
     }
-    return text;
+    expanded += QStringView(text).sliced(position);
+    return expanded;
   }
 
   QString folder_;
