@@ -1,5 +1,6 @@
 #include "monkey/Monkey.h"
 
+#include <sys/time.h>
 #include <unistd.h>
 #include <QAction>
 #include <QApplication>
@@ -75,6 +76,13 @@ bool IsBlocked(const QWidget *window) {
   return modal && window->window() != modal;
 }
 
+// What others do on the machine makes a step no longer, but a step may also wait without end.
+void WatchStep(unsigned seconds) {
+  const itimerval watch{.it_interval = {}, .it_value = {.tv_sec = time_t(seconds), .tv_usec = 0}};
+  setitimer(ITIMER_PROF, &watch, nullptr);
+  alarm(10 * seconds);
+}
+
 }  // namespace
 
 Monkey::Monkey(const Plan &plan) : plan_(plan), dice_(plan.seed) {
@@ -132,7 +140,7 @@ void Monkey::Tick(int depth) {
   if (outermost) {
     if (step_ == plan_.steps) return QCoreApplication::exit(0);
     ++step_;
-    alarm(plan_.longestStep);
+    WatchStep(plan_.longestStep);
   } else if (!dice_.OneIn(nestedActionOneIn)) {
     return;
   }

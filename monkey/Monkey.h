@@ -20,9 +20,11 @@ class Monkey : public QObject {
   struct Plan {
     int steps = 0;
     unsigned seed = 0;
-    bool trace = false;        ///< each action goes to the standard error output
-    unsigned longestStep = 0;  ///< seconds until SIGALRM; 0 for never
-    QString folder;            ///< that it plays in, with the program's files in it
+    bool trace = false;  ///< each action goes to the standard error output
+    /// Seconds of the processor's time until SIGPROF, and ten times as many by the clock until
+    /// SIGALRM; 0 for never.
+    unsigned longestStep = 0;
+    QString folder;  ///< that it plays in, with the program's files in it
   };
 
   explicit Monkey(const Plan &plan);

@@ -131,11 +131,11 @@ void CellGrid::Click(int cell, Qt::MouseButton button) {
 
 void CellGrid::focusInEvent(QFocusEvent *event) {
   QWidget::focusInEvent(event);
-  update();
+  update(CellRect(marked_));
   MoveTo(marked_);
 }
 
 void CellGrid::focusOutEvent(QFocusEvent *event) {
   QWidget::focusOutEvent(event);
-  update();
+  update(CellRect(marked_));
 }
