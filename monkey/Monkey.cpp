@@ -76,6 +76,11 @@ bool IsBlocked(const QWidget *window) {
   return modal && window->window() != modal;
 }
 
+// The window system gives nothing to a window that was closed in the meantime.
+bool IsThere(const QPointer<QWindow> &window) {
+  return window && window->isVisible();
+}
+
 // What others do on the machine makes a step no longer, but a step may also wait without end.
 void WatchStep(unsigned seconds) {
   const itimerval watch{.it_interval = {}, .it_value = {.tv_sec = time_t(seconds), .tv_usec = 0}};
@@ -330,7 +335,7 @@ void Monkey::Press(Qt::Key key, Qt::KeyboardModifiers with) {
   }
   if (!window) return;
   QTest::keyPress(window, key, with);
-  if (!window) window = QGuiApplication::focusWindow();
+  if (!IsThere(window)) window = QGuiApplication::focusWindow();
   if (window) QTest::keyRelease(window, key, with);
 }
 
@@ -342,7 +347,7 @@ void Monkey::TypeText() {
     const QPointer<QWindow> window = QGuiApplication::focusWindow();
     if (!window) return;
     QTest::keyPress(window, letter.toLatin1());
-    if (window) QTest::keyRelease(window, letter.toLatin1());
+    if (IsThere(window)) QTest::keyRelease(window, letter.toLatin1());
   }
 }
 
@@ -367,9 +372,9 @@ void Monkey::Click() {
   const QPointer<QWindow> window = any->windowHandle();
   if (!QRect(QPoint(), window->size()).contains(at)) return;
   QTest::mouseMove(window, at);
-  for (int times = twice ? 2 : 1; times > 0 && window; --times) {
+  for (int times = twice ? 2 : 1; times > 0 && IsThere(window); --times) {
     QTest::mousePress(window, button, with, at);
-    if (window) QTest::mouseRelease(window, button, with, at);
+    if (IsThere(window)) QTest::mouseRelease(window, button, with, at);
   }
 }
 
@@ -390,11 +395,11 @@ void Monkey::Drag() {
            .arg(to.y()));
   QTest::mousePress(window, Qt::LeftButton, {}, from);
   constexpr int moves = 4;
-  for (int move = 1; move <= moves && window; ++move) {
+  for (int move = 1; move <= moves && IsThere(window); ++move) {
     if (!QRect(QPoint(), window->size()).contains(to)) break;
     QTest::mouseMove(window, from + (to - from) * move / moves);
   }
-  if (window) QTest::mouseRelease(window, Qt::LeftButton, {}, to);
+  if (IsThere(window)) QTest::mouseRelease(window, Qt::LeftButton, {}, to);
 }
 
 void Monkey::Wheel() {
