@@ -5,7 +5,9 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTemporaryFile>
+#include <QTextBlock>
 
+#include "Compare.h"
 #include "documents/FileCommands.h"
 #include "documents/mEditors.h"
 #include "toolkit/DoEvents.h"
@@ -62,4 +64,19 @@ void Close(QPlainTextEdit &box) {
   } else {
     delete window;
   }
+}
+
+double TimeOfKey(QPlainTextEdit &box) {
+  constexpr int keys = 200;
+  static int run = 0;
+  TurnTo(box);
+  const int line = box.document()->blockCount() / 2 + ++run;
+  QTextCursor cursor = box.textCursor();
+  cursor.setPosition(box.document()->findBlockByNumber(line).position());
+  box.setTextCursor(cursor);
+  DoEvents();
+  return Seconds([&box] {
+           for (int key = 0; key < keys; ++key) PressKey(box, Qt::Key_X, QStringLiteral("x"));
+         }) *
+         1000 / keys;
 }

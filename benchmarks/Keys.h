@@ -19,3 +19,7 @@ void TurnTo(QPlainTextEdit &box);
 
 /// Closes the window of a box without a question.
 void Close(QPlainTextEdit &box);
+
+/// Milliseconds a key takes in a box, each drawn before the next, in a line of its own near the
+/// middle of the text.
+double TimeOfKey(QPlainTextEdit &box);

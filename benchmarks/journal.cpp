@@ -1,6 +1,4 @@
-#include <QPlainTextEdit>
 #include <QTemporaryDir>
-#include <QTextBlock>
 #include <algorithm>
 #include <ctime>
 
@@ -12,22 +10,6 @@
 namespace {
 
 constexpr qsizetype large = 10 << 20;
-constexpr int keys = 200;
-
-// Milliseconds a key, each drawn before the next, in a line of its own near the middle of the text.
-double Type(QPlainTextEdit &box) {
-  static int run = 0;
-  TurnTo(box);
-  const int line = box.document()->blockCount() / 2 + ++run;
-  QTextCursor cursor = box.textCursor();
-  cursor.setPosition(box.document()->findBlockByNumber(line).position());
-  box.setTextCursor(cursor);
-  DoEvents();
-  return Seconds([&box] {
-           for (int key = 0; key < keys; ++key) PressKey(box, Qt::Key_X, QStringLiteral("x"));
-         }) *
-         1000 / keys;
-}
 
 // Milliseconds that this thread has worked; what other programs take from it isn't counted.
 double Worked() {
@@ -57,7 +39,7 @@ void BenchJournal() {
   RichTextBox &kept = OpenDocument(Page(large));
   Compare(
       QStringLiteral("a key in 10 MB with the journal against without"), QStringLiteral("ms"), 1.1,
-      [&kept] { return Type(kept); }, [&unkept] { return Type(unkept); });
+      [&kept] { return TimeOfKey(kept); }, [&unkept] { return TimeOfKey(unkept); });
   const auto longestTurnAfter = [&](const QString &text) {
     return [&, text] {
       journal.WriteNow();

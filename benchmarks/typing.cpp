@@ -1,31 +1,14 @@
 #include <QPlainTextEdit>
-#include <QTextBlock>
 
 #include "Compare.h"
 #include "Keys.h"
 #include "frame/mPublic.h"
-#include "toolkit/DoEvents.h"
 
 namespace {
 
 constexpr qsizetype large = 10 << 20;
 constexpr qsizetype small = 100 << 10;
-constexpr int keys = 200;
 constexpr int positions = 2000;
-
-// Milliseconds a key, each drawn before the next, in a line of its own near the middle of the text.
-double Type(QPlainTextEdit &box) {
-  static int run = 0;
-  const int line = box.document()->blockCount() / 2 + ++run;
-  QTextCursor cursor = box.textCursor();
-  cursor.setPosition(box.document()->findBlockByNumber(line).position());
-  box.setTextCursor(cursor);
-  DoEvents();
-  return Seconds([&box] {
-           for (int key = 0; key < keys; ++key) PressKey(box, Qt::Key_X, QStringLiteral("x"));
-         }) *
-         1000 / keys;
-}
 
 // Microseconds to set the caret to a position of the text and ask for it again.
 double MoveCaret(RichTextBox &box) {
@@ -46,21 +29,17 @@ void BenchTyping() {
   RichTextBox &smallBox = OpenDocument(Page(small));
   RichTextBox &largeBox = OpenDocument(Page(large));
   QPlainTextEdit &bare = OpenBare(Page(large));
-  const auto typeIn = [](QPlainTextEdit &box) {
-    TurnTo(box);
-    return Type(box);
-  };
   Compare(
       QStringLiteral("a key in 10 MB against the bare widget's"), QStringLiteral("ms"), 1.5,
-      [&] { return typeIn(largeBox); }, [&] { return typeIn(bare); });
+      [&] { return TimeOfKey(largeBox); }, [&] { return TimeOfKey(bare); });
   mPublic::TagHighlight = {0, 1, 1, 1};
   Compare(
       QStringLiteral("the same with all highlights on"), QStringLiteral("ms"), 1.5,
-      [&] { return typeIn(largeBox); }, [&] { return typeIn(bare); });
+      [&] { return TimeOfKey(largeBox); }, [&] { return TimeOfKey(bare); });
   mPublic::TagHighlight = {};
   Compare(
       QStringLiteral("a key in 10 MB against one in 100 kB"), QStringLiteral("ms"), 1.5,
-      [&] { return typeIn(largeBox); }, [&] { return typeIn(smallBox); });
+      [&] { return TimeOfKey(largeBox); }, [&] { return TimeOfKey(smallBox); });
   // A hundred times the lines: two searches in trees of that many more levels, never a walk.
   Compare(
       QStringLiteral("position to caret and back, 10 MB against 100 kB"), QStringLiteral("us"), 3,
