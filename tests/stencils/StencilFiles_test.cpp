@@ -2,21 +2,27 @@
 
 #include <QTemporaryDir>
 
-#include "base/mFolders.h"
-#include "frame/mPublic.h"
+#include "shared/KilledAt.h"
+#include "shared/Limits.h"
 #include "shared/Stencils.h"
-#include "stencils/ExportRow.h"
 #include "stencils/QuickBar.h"
-#include "stencils/StencilSearch.h"
+#include "stencils/mStencilBuilder.h"
 
-namespace {
-
-QStringList Words(const char *words) {
-  return QString::fromLatin1(words).split(u' ', Qt::SkipEmptyParts);
-}
+using Qt::StringLiterals::operator""_s;
 
 class StencilFilesTest : public testing::Test {
  protected:
+  void Put(const char *stencils, const char *quickBar) {
+    PutStencils(path, QString::fromLatin1(stencils).split(u' '));
+    PutQuickBar(bar, QString::fromLatin1(quickBar).split(u' '));
+  }
+  void Delete(const QString &key) {
+    mStencilBuilder::BlankSubtree(path, key);
+    mStencilBuilder::CompactSelfBuiltFiles(path, bar, scratch);
+  }
+  // Of the stencils and of the quick bar.
+  QString Keys() { return KeysIn(path) + u'|' + QuickBar::Keys(bar).join(u' '); }
+
   QTemporaryDir folder;
   const QString path = folder.filePath(StencilFiles::SelfBuilt);
   const QString bar = folder.filePath(StencilFiles::QuickBar);
@@ -24,115 +30,59 @@ class StencilFilesTest : public testing::Test {
 };
 
 TEST_F(StencilFilesTest, TheLowestFreeLetterMakesTheNextKey) {
-  const QString full(100, u'a');
-  QStringList children;
-  for (char16_t letter = u'a'; letter <= u'z'; ++letter)
-    children << StencilFiles::RootKey + QString(2, letter);
-  QStringList withGap = children;
-  withGap.removeAt(2);
-  struct Case {
-    QStringList keys;
-    QString parent;
-    QString next;
-  };
-  for (const Case &row :
-       {Case{{}, Words("aa")[0], QStringLiteral("aaaa")},
-        Case{Words("aaaa aacc aaaaaa"), Words("aa")[0], QStringLiteral("aabb")},
-        Case{Words("AAAA aaaab aab aaBB aaab"), Words("aa")[0], QStringLiteral("aaaa")},
-        Case{Words("aaaa aaaaaa aaaabb"), Words("aaaa")[0], QStringLiteral("aaaacc")},
-        Case{children, Words("aa")[0], StencilFiles::NoKey},
-        Case{withGap, Words("aa")[0], QStringLiteral("aacc")},
-        Case{{full}, full, full + StencilFiles::RootKey}}) {
-    PutStencils(path, row.keys);
-    EXPECT_EQ(StencilFiles::NextFreeStencilKey(path, row.parent), row.next);
+  QString children;
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    children += u" aa"_s + QString(2, QLatin1Char(letter));
   }
-  EXPECT_EQ(StencilFiles::NextFreeStencilKey(folder.filePath(QStringLiteral("gone")),
-                                             StencilFiles::RootKey),
-            QStringLiteral("aaaa"));
-}
-
-TEST_F(StencilFilesTest, TheFirstRecordOfAKeyIsFoundInWhateverFile) {
-  PutStencils(path, Words("aaaa aabb aabb aaAA"));
-  EXPECT_EQ(StencilFiles::StencilCount(path), 4);
-  EXPECT_EQ(StencilFiles::FindStencil(path, QStringLiteral("aabb"))->Header.Trimmed(),
-            QStringLiteral("Haabb"));
-  EXPECT_EQ(StencilFiles::FindStencil(path, QStringLiteral("aaAA"))->Header.Trimmed(),
-            QStringLiteral("HaaAA"));
-  for (const QByteArray &bytes :
-       {QByteArray(), QByteArray("x"), QByteArray(2650, '\0'), QByteArray(4000, 'q')}) {
-    PutFile(path, bytes);
-    EXPECT_FALSE(StencilFiles::FindStencil(path, QStringLiteral("aaaa")));
-    EXPECT_EQ(FileBytes(path), bytes);
+  const QString cases[][3] = {{u""_s, u"aa"_s, u"aaaa"_s},
+                              {u"aaaa aacc aaaaaa"_s, u"aa"_s, u"aabb"_s},
+                              {u"AAAA aaaab aab aaBB aaba"_s, u"aa"_s, u"aaaa"_s},
+                              {u"aaaa aaaaaa aaaabb"_s, u"aaaa"_s, u"aaaacc"_s},
+                              {children, u"aa"_s, StencilFiles::NoKey},
+                              {QString(children).remove(u"aazz"_s), u"aa"_s, u"aazz"_s}};
+  for (const auto &[keys, parent, next] : cases) {
+    PutStencils(path, keys.split(u' '));
+    EXPECT_EQ(StencilFiles::NextFreeStencilKey(path, parent), next);
   }
-  EXPECT_FALSE(StencilFiles::FindStencil(folder.path(), QStringLiteral("aaaa")));
 }
 
-TEST_F(StencilFilesTest, DataFilesFollowThePreferencesOfTheMoment) {
-  const auto resolved = [](bool other, const QString &where) {
-    mPublic::recPreferences = StandardPreferences();
-    mPublic::recPreferences.SelfStencilsOtherPath = other;
-    mPublic::recPreferences.OtherStencilsPath.Set(where);
-    EXPECT_TRUE(mPublic::WritePreferences());
-    mPublic::recPreferences = {};
-    return StencilFiles::ResolveDataFile(StencilFiles::QuickBar);
-  };
-  EXPECT_EQ(resolved(false, folder.path()), mFolders::InProgramFolder(StencilFiles::QuickBar));
-  EXPECT_EQ(resolved(true, u' ' + folder.path()), bar);
-  EXPECT_EQ(resolved(true, QStringLiteral("/data/")), QStringLiteral("/data//htLib0003.htf"));
+TEST_F(StencilFilesTest, ADeleteTakesTheSubtreeAndItsQuickBarEntries) {
+  const std::tuple<const char16_t *, const char *, const char *, const char16_t *> cases[] = {
+      {u"aabb", "aaaa aabb aabbaa aacc aabbbb", "aabbaa aacc aa aaaa", u"aaaa aacc|aacc aaaa"},
+      {u"", "aaaa qq", "qq", u"|"},
+      {u"AABB", "aaaa aabb", "aaaa", u"aaaa|aaaa"},
+      {u"none", "aaaa b aabb aabb", "aabb aaaa", u"aaaa aabb aabb|aabb aabb aaaa"}};
+  for (const auto &[key, stencils, quickBar, left] : cases) {
+    Put(stencils, quickBar);
+    PutFile(scratch, "left behind by a stop" + QByteArray(9000, 'x'));
+    Delete(QString::fromUtf16(key));
+    EXPECT_EQ(Keys(), left);
+    EXPECT_FALSE(QFile::exists(scratch));
+  }
+  EXPECT_EQ(FileBytes(path).left(2650), Bytes(Stencil(u"aaaa"_s, u"Haaaa"_s, u"<aaaa>"_s)));
 }
 
-TEST_F(StencilFilesTest, TheQuickBarTakesAHundredAndEachOnce) {
-  using QuickBar::Adding;
-  EXPECT_EQ(QuickBar::Add(bar, QStringLiteral("aaaa")), Adding::Added);
-  EXPECT_EQ(FileBytes(bar), QByteArray("aaaa").leftJustified(100));
-  EXPECT_EQ(QuickBar::Add(bar, QStringLiteral("aaaa")), Adding::Present);
-  for (int i = 2; i <= 100; ++i) EXPECT_EQ(QuickBar::Add(bar, QString::number(i)), Adding::Added);
-  EXPECT_EQ(QuickBar::Add(bar, QStringLiteral("aaaa")), Adding::Full);
-  EXPECT_EQ(QuickBar::Add(bar, {}), Adding::Nothing);
-  EXPECT_EQ(QuickBar::Keys(bar).size(), 100);
-}
-
-TEST_F(StencilFilesTest, QuickBarEntriesShowTheirStencilsHeaderAndGoByKey) {
-  PutStencils(path, Words("aaaa aabb aabb aacc"));
-  PutQuickBar(bar, Words("aacc gone aaaa aacc"));
-  EXPECT_EQ(QuickBar::Headers(path, QuickBar::Keys(bar)), Words("Haacc Haaaa Haacc"));
-  ASSERT_TRUE(QuickBar::Remove(bar, scratch, QStringLiteral("aacc")));
-  EXPECT_EQ(QuickBar::Keys(bar), Words("gone aaaa"));
+TEST_F(StencilFilesTest, ARewriteThatFailsLeavesTheOldFileWhole) {
+  Put("aaaa aabb aacc", "aabb gone");
+  const QByteArray stencils = FileBytes(path);
+  {
+    const FullDisk disk(5000);
+    mStencilBuilder::CompactSelfBuiltFiles(path, bar, scratch);
+  }
+  EXPECT_EQ(FileBytes(path), stencils);
   EXPECT_FALSE(QFile::exists(scratch));
 }
 
-TEST_F(StencilFilesTest, SearchLooksIntoEachFieldByItself) {
-  PutStencils(path, Words("aaaa aabb aacc"));
-  StencilFile(path).Append(Stencil({}, QStringLiteral("blanked")));
-  struct Case {
-    const char *phrase;
-    bool matchCase;
-    int first;
-    int hit;
-  };
-  for (const auto &[phrase, matchCase, first, hit] : {Case{"", true, 1, 1},
-                                                      {"", true, 2, 2},
-                                                      {"", true, 4, 0},
-                                                      {"AABB", false, 1, 2},
-                                                      {"AABB", true, 1, 0},
-                                                      {"help Haacc", true, 1, 3},
-                                                      {"Haacc  ", true, 1, 3},
-                                                      {"Haacc <", true, 1, 0},
-                                                      {"blanked", false, 1, 0},
-                                                      {"cap", true, 3, 3}}) {
-    const auto found = SearchStencils(path, QString::fromLatin1(phrase),
-                                      matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive, first,
-                                      [] { return true; });
-    EXPECT_EQ(found ? int(found->record) : 0, hit) << phrase;
-    EXPECT_TRUE(!found || found->parentKey == StencilFiles::RootKey);
+TEST_F(StencilFilesTest, KilledAtAnyMomentNothingElseIsLost) {
+  int moments = 0;
+  for (bool killed = true; killed; ++moments) {
+    QFile::remove(scratch);
+    Put("aaaa aabb aabbaa aacc", "aacc aabbaa aaaa");
+    killed = KilledAt(moments, [this] { Delete(u"aabb"_s); });
+    const QString left = Keys().remove(u" aabbaa"_s).remove(u" aabb"_s).simplified();
+    EXPECT_EQ(left, u"aaaa aacc|aacc aaaa") << moments;
+    Delete(u"aabb"_s);
+    EXPECT_EQ(KeysIn(path), u"aaaa aacc") << "the next delete brings it to its end";
   }
+  EXPECT_GT(moments, 10);
 }
-
-TEST_F(StencilFilesTest, AnExportRowPadsTheHeaderAlone) {
-  StencilRecord record =
-      Stencil(QStringLiteral("aaaa"), QStringLiteral("head"), QStringLiteral("a\r\nb"));
-  EXPECT_EQ(ExportRow(record, ",\t"),
-            QByteArray("head").leftJustified(100) + ",\ta\r\nb,\tcap head,\thelp head,\t\r\n\r\n");
-}
-
-}  // namespace

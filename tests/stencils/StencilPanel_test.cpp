@@ -1,9 +1,5 @@
-#include "stencils/StencilPanel.h"
-
 #include <QClipboard>
-#include <QGuiApplication>
 
-#include "base/mFolders.h"
 #include "shared/StencilFormsTest.h"
 #include "stencils/FillStencilTree.h"
 #include "stencils/LoadStencilTrees.h"
@@ -11,161 +7,114 @@
 #include "stencils/frmStencilsSearch.h"
 #include "stencils/frmTagDescription.h"
 
-namespace {
+using Qt::StringLiterals::operator""_s;
 
 class StencilPanelTest : public StencilFormsTest {
  protected:
   // The standard library of the test's own program folder is put back at the end.
-  StencilPanelTest() : delivered_(FileBytes(StencilFiles::StandardPath())) {
+  StencilPanelTest() {
     PutStencils(StencilFiles::StandardPath(), Words("aaaa aaaaaa aabb aacc"));
-    StencilRecord section = Stencil(QStringLiteral("aadd"), QStringLiteral("section"));
-    StencilFile(StencilFiles::StandardPath()).Append(section);
+    StencilFile(StencilFiles::StandardPath()).Append(Stencil(u"aadd"_s, u"section"_s));
     PutStencils(stencils, Words("aaaa"));
     LoadStencilTrees(true, true);
-    tree = main->trwStencils;
+    tree->expandAll();
     main->activateWindow();
     DoEvents();
   }
-  ~StencilPanelTest() override { PutFile(StencilFiles::StandardPath(), delivered_); }
+  ~StencilPanelTest() override { PutFile(StencilFiles::StandardPath(), delivered); }
 
-  void Select(KeyedTree *in, int ordinal) { in->setCurrentItem(in->Node(ordinal)); }
-  void Click(KeyedTree *in, int ordinal, Qt::MouseButton button = Qt::LeftButton) {
-    in->expandAll();
+  static void Select(KeyedTree *in, int ordinal) { in->setCurrentItem(in->Node(ordinal)); }
+  static void Click(KeyedTree *in, int ordinal, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(in->viewport(), button, {}, in->visualItemRect(in->Node(ordinal)).center());
   }
   QString Shown() { return main->lblTagDescription->text(); }
-  void PressTab(DrawnTabStrip *strip, int x) {
+  static void PressTab(DrawnTabStrip *strip, int x) {
     QTest::mousePress(strip, Qt::LeftButton, {}, QPoint(x, strip->TabTop() + 5));
   }
 
-  KeyedTree *tree;
-
- private:
-  const QByteArray delivered_;
+  KeyedTree *const tree = main->trwStencils;
+  KeyedTree *const selfBuilt = main->trwSelfBuildedStencils;
+  const QByteArray delivered = FileBytes(StencilFiles::StandardPath());
 };
 
 TEST_F(StencilPanelTest, TheSelectedNodesTextIsShownByTabs) {
   Click(tree, 3);
-  EXPECT_EQ(Shown(), QStringLiteral("help Haaaaaa"));
   PressTab(main->picTagDescription, 160);
-  EXPECT_EQ(Shown(), QStringLiteral("<aaaaaa>"));
+  EXPECT_EQ(Shown(), u"<aaaaaa>");
   QTest::keyClick(tree, Qt::Key_Down);
-  EXPECT_EQ(Shown(), QStringLiteral("<aabb>"));
+  EXPECT_EQ(Shown(), u"<aabb>");
   PressTab(main->picTagDescription, 80);
-  EXPECT_EQ(Shown(), QStringLiteral("help Haabb"));
+  EXPECT_EQ(Shown(), u"help Haabb");
+  main->cmdTagDescriptionLarge->click();
+  auto *large = Default<frmTagDescription>();
+  EXPECT_EQ(large->lblTagName->text() + large->rtfTagSource->toPlainText() +
+                large->lblTagDescription->text(),
+            u" cap Haabb<aabb>help Haabb");
+  large->cmdClose->click();
   PressTab(main->picStencilsTab, 81);
-  EXPECT_TRUE(main->trwSelfBuildedStencils->isVisible() && !tree->isVisible());
-  EXPECT_EQ(main->lblWindowTitelStencilWindow->backgroundRole(), QPalette::Highlight);
-  Click(main->trwSelfBuildedStencils, 1);
-  EXPECT_EQ(Shown(), QString()) << "the root has no text";
-  PressTab(main->picStencilsTab, 161);
-  EXPECT_FALSE(tree->isVisible()) << "beside the tabs";
+  EXPECT_TRUE(selfBuilt->isVisible() && !tree->isVisible());
+  Click(selfBuilt, 1);
+  EXPECT_EQ(Shown(), u"") << "the root has no text";
+  PutFile(stencils, QByteArray(7000, '\xE4'));
+  LoadStencilTrees(false, true);
+  EXPECT_EQ(selfBuilt->NodeCount(), 1);
 }
 
 TEST_F(StencilPanelTest, ARightClickInsertsTheSelectedStencilBeforeTheSelection) {
-  Select(tree, 4);
-  Click(tree, 2, Qt::RightButton);
-  RichTextBox *text = Open(QStringLiteral("a.html"), "one two")->txthtml;
-  const auto insert = [&](KeyedTree *from, int selected, int under) {
-    text->SetText(QStringLiteral("one two"));
+  Click(tree, 2, Qt::RightButton);  // no document: nothing to do
+  RichTextBox *text = Open(u"a.html"_s, "")->txthtml;
+  const auto insert = [&](KeyedTree *from, int selected) {
+    text->SetText(u"one two"_s);
     text->SetSelStart(4);
     text->SetSelLength(3);
-    main->picLeft->setFocus();
     Select(from, selected);
-    Click(from, under, Qt::RightButton);
+    Click(from, 1, Qt::RightButton);
     EXPECT_EQ(from->currentItem(), from->Node(selected));
-    EXPECT_EQ(text->SelLength(), 0);
     EXPECT_TRUE(text->hasFocus());
     return text->Text();
   };
-  EXPECT_EQ(insert(tree, 4, 2), QStringLiteral("one <aabb>two"));
-  EXPECT_EQ(text->SelStart(), 10);
-  text->undo();
-  EXPECT_EQ(text->Text(), QStringLiteral("one two")) << "one step";
-  EXPECT_FALSE(mPublic::aEditorState[1].changed);
-  EXPECT_EQ(insert(tree, 6, 2), QStringLiteral("one two")) << "a section";
-  EXPECT_EQ(text->SelStart(), 4);
-  text->SetText({});
+  EXPECT_EQ(insert(tree, 4), u"one <aabb>two");
+  EXPECT_EQ(insert(tree, 6), u"one two") << "a section";
+  EXPECT_EQ(insert(selfBuilt, 1), u"one <aaaa>two") << "the only one, whatever is selected";
+  PutStencils(stencils, Words("aaaa aabb"));
+  EXPECT_EQ(insert(selfBuilt, 1), u"one two");
   Select(tree, 4);
   QTest::keyClick(tree, Qt::Key_F10, Qt::ShiftModifier);
-  EXPECT_EQ(text->Text(), QStringLiteral("<aabb>"));
-  EXPECT_EQ(insert(main->trwSelfBuildedStencils, 1, 1), QStringLiteral("one <aaaa>two"))
-      << "the only one, whatever is selected";
-  PutStencils(stencils, Words("aaaa aabb"));
-  EXPECT_EQ(insert(main->trwSelfBuildedStencils, 1, 1), QStringLiteral("one two"));
+  EXPECT_EQ(text->Text(), u"one <aabb>two");
 }
 
-TEST_F(StencilPanelTest, WhatCannotBeAddedLeavesLaterNodesWithoutTag) {
-  struct Case {
-    const char *keys;
-    const char *tags;
-  };
-  for (const auto &[keys, tags] : {Case{"", "aa"},
-                                   {"aaaa aaaaaa", "aa aaaa aaaaaa"},
-                                   {"aabbaa aabb aacc", "aa - -"},
-                                   {"aaaa aaaa aabb", "aa aaaa -"},
-                                   {"AAAA aab aaaa", "aa -"}}) {
-    PutStencils(stencils, Words(keys));
-    LoadStencilTrees(false, true);
-    QStringList shown;
-    for (int n = 1; n <= main->trwSelfBuildedStencils->NodeCount(); ++n) {
-      const QString tag = StencilTag(main->trwSelfBuildedStencils->Node(n));
-      shown << (tag.isEmpty() ? QStringLiteral("-") : tag);
-    }
-    EXPECT_EQ(shown.join(u' '), QLatin1String(tags)) << keys;
-  }
-  PutFile(stencils, QByteArray(7000, '\xE4'));
-  LoadStencilTrees(false, true);
-  EXPECT_EQ(main->trwSelfBuildedStencils->NodeCount(), 1);
-}
-
-TEST_F(StencilPanelTest, TheLargeWindowShowsTheStencilOfTheTreeUsedLast) {
-  Click(tree, 4);
-  main->cmdTagDescriptionLarge->click();
-  auto *large = Default<frmTagDescription>();
-  EXPECT_TRUE(large->isVisible());
-  EXPECT_EQ(large->lblTagName->text(), QStringLiteral(" cap Haabb"));
-  EXPECT_EQ(large->rtfTagSource->toPlainText(), QStringLiteral("<aabb>"));
-  EXPECT_EQ(large->lblTagDescription->text(), QStringLiteral("help Haabb"));
-  large->cmdClose->click();
-  PutStencils(stencils, {});
-  LoadStencilTrees(false, true);
-  Click(main->trwSelfBuildedStencils, 1);
-  main->cmdTagDescriptionLarge->click();
-  EXPECT_FALSE(mForms::Find(QStringLiteral("frmTagDescription"))) << "the root alone";
+TEST_F(StencilPanelTest, FillingEndsWithItsTree) {
+  auto *dying = new KeyedTree;
+  FillStencilTree(*dying, stencils, u"root"_s, [dying] {
+    delete dying;
+    return true;
+  });
 }
 
 TEST_F(StencilPanelTest, TheBrowserMarksCopiesAndSearches) {
   auto *browser = Default<frmStencils>();
   browser->show();
-  ASSERT_EQ(browser->trwStencils->NodeCount(), 6);
   Select(browser->trwStencils, 3);
   browser->cmdMarker->click();
   EXPECT_EQ(tree->currentItem(), tree->Node(3));
   browser->cmdOk->click();
-  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("<aaaaaa>"));
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), u"<aaaaaa>");
 
   browser->cmdFind->click();
   auto *search = Default<frmStencilsSearch>();
-  const auto press = [&] {
+  dialogs.answers.assign(3, Dialogs::Answer::Ok);
+  QString nodes;
+  for (const auto *phrase : {u"AAAA ", u"AAAA ", u"AAAA ", u"AAAA ", u"help Haacc", u"<aabb>",
+                             u"Haacc <", u"section", u"AABB"}) {
+    search->chkMatchCase->setChecked(nodes.size() == 8);
+    search->txtSearchString->setText(QString::fromUtf16(phrase));
     search->cmdSearch->click();
-    EXPECT_TRUE(search->cmdSearch->isEnabled() && search->cmdCancel->isEnabled());
-    return browser->trwStencils->Ordinal(browser->trwStencils->currentItem());
-  };
-  search->txtSearchString->setText(QStringLiteral("AAAA "));
-  EXPECT_EQ(press(), 2);
-  EXPECT_EQ(press(), 3);
-  EXPECT_TRUE(browser->trwStencils->Node(2)->isExpanded());
-  dialogs.answers = {Dialogs::Answer::Ok};
-  EXPECT_EQ(press(), 3);
-  EXPECT_EQ(dialogs.messages.last(),
-            QStringLiteral("Stencils Search|Phrase was not found (again)|0"));
-  EXPECT_EQ(press(), 2) << "begins again";
-  search->txtSearchString->setText(QStringLiteral("section"));
-  EXPECT_EQ(press(), 2) << "the last record's node is not reached";
-  EXPECT_TRUE(browser->trwStencils->Node(1)->isExpanded());
+    nodes += QString::number(browser->trwStencils->Ordinal(browser->trwStencils->currentItem()));
+  }
+  // Not found the third time, then from the start; in each field by itself; the last record's node
+  // is not reached.
+  EXPECT_EQ(nodes, u"233254444");
+  EXPECT_EQ(dialogs.messages, QStringList(3, u"Stencils Search|Phrase was not found (again)|0"_s));
   browser->cmdCancel->click();
-  EXPECT_FALSE(mForms::Find(QStringLiteral("frmStencilsSearch")));
+  EXPECT_FALSE(mForms::Find(u"frmStencilsSearch"_s));
 }
-
-}  // namespace
