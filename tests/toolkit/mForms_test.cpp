@@ -16,18 +16,14 @@ class frmSample : public DialogForm {
   Q_OBJECT
 
  public:
-  bool agrees = true;
-  int asked = 0;
+  std::function<bool()> agrees = [] { return true; };
+  QList<UnloadMode> asked;
   int loaded = 0;
-  UnloadMode mode = UnloadMode::Code;
-  std::function<void()> whileAsked;
 
   void Load() override { ++loaded; }
   bool QueryUnload(UnloadMode by) override {
-    ++asked;
-    mode = by;
-    if (whileAsked) whileAsked();
-    return agrees;
+    asked << by;
+    return agrees();
   }
 };
 
@@ -41,19 +37,15 @@ TEST(mFormsTest, ADefaultInstanceLivesUntilItAgreesToGo) {
   timer->start(1);
   form->show();
 
-  form->agrees = false;
+  form->agrees = [] { return false; };
   QTest::keyClick(form, Qt::Key_Escape);
-  EXPECT_TRUE(form->isVisible());
-  EXPECT_EQ(form->mode, UnloadMode::ControlMenu);
   EXPECT_FALSE(form->close());
-  EXPECT_EQ(form->asked, 2);
+  EXPECT_TRUE(form->isVisible());
+  EXPECT_EQ(form->asked, QList<UnloadMode>(2, UnloadMode::ControlMenu));
 
-  form->agrees = true;
-  form->whileAsked = [form] { EXPECT_FALSE(Unload(*form)) << "it is being asked"; };
+  form->agrees = [form] { return !Unload(*form); };  // it is being asked
   EXPECT_TRUE(Unload(*form));
-  EXPECT_TRUE(form->IsUnloaded());
-  EXPECT_FALSE(form->isVisible());
-  EXPECT_FALSE(timer->isActive());
+  EXPECT_TRUE(form->IsUnloaded() && !form->isVisible() && !timer->isActive());
   EXPECT_NE(Default<frmSample>(), form) << "the next use makes a new one";
   DoEvents();
   EXPECT_TRUE(form) << "a handler that pumps may still be on the stack";
