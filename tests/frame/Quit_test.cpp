@@ -9,8 +9,7 @@ namespace {
 
 using Answer = Dialogs::Answer;
 
-class QuitTest : public FormsTest {
- protected:
+struct QuitTest : FormsTest {
   QuitTest() {
     QDir().mkpath(mPlatform::Current().temporaryFolder);
     PutFile(output, "");

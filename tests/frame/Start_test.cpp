@@ -9,8 +9,7 @@ using Qt::StringLiterals::operator""_s;
 namespace {
 
 // Starts as the process does, with a program folder that the test has prepared.
-class StartTest : public testing::Test {
- protected:
+struct StartTest : testing::Test {
   StartTest() {
     SetEndProgram([] {});
     mPublic::recPreferences = StandardPreferences();
