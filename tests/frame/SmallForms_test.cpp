@@ -8,16 +8,11 @@ namespace {
 
 using SmallFormsTest = FormsTest;
 
-TEST_F(SmallFormsTest, TheAboutTextRunsAndBeginsAnew) {
+TEST_F(SmallFormsTest, TheAboutTextRuns) {
   main->picBottom->Press(1);
   auto *form = static_cast<frmInfo *>(mForms::Find(u"frmInfo"_s));
-  const int end = form->picNameBelanglos->height() - form->lblScroll->height();
-  QList<int> places;
-  for (int ticks = 0; ticks < 2 - end; ++ticks) {
-    QMetaObject::invokeMethod(form->timTimer, "timeout");
-    places << form->lblScroll->y();
-  }
-  EXPECT_EQ(places.mid(-end - 6, 5), (QList{end + 5, 0, 0, -1, -2}));
+  for (int ticks = 0; ticks < 5; ++ticks) QMetaObject::invokeMethod(form->timTimer, "timeout");
+  EXPECT_EQ(form->lblScroll->y(), -5);
   dialogs.answers = {Dialogs::Answer::Ok};
   form->lblSysInfo->click();
   EXPECT_EQ(dialogs.messages.value(0),
