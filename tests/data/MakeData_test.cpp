@@ -15,9 +15,7 @@ const Maker stencils = [](const SourceText &source) { StencilLibrary().Add(sourc
 
 /// Two cells side by side, seven points drawn of eight records.
 const QString strip = u"size 48 24\ncells across\nbytes 96\ncolour k #010203\n"_s;
-const QString twoButtons = strip + u"button one\nkk\nk.\n\nbutton two\nk\n"_s;
 const QString entry = u"# A\nhelp\n```\n<a>\n```\n"_s;
-/// Sub-entries with different help texts.
 const auto SubEntries = [](int count) {
   QString text;
   for (int n = 0; n < count; ++n) text += u"## B\nhelp %1\n```\nb\n```\n"_s.arg(n);
@@ -27,37 +25,15 @@ const auto SubEntries = [](int count) {
 TEST(MakeData, RefusesASourceThatBreaksARuleWithFileAndLine) {
   // Each with the beginning of its message.
   const std::tuple<Maker, QString, std::string> cases[] = {
-      {pixels, strip + u"button one\nkk\nkx\n"_s, "7: \"x\" has no colour"},
-      {pixels, strip + u"button one\nkk\nk\n"_s, "7: a row of 1 among rows of 2"},
-      {pixels, strip + u"button\n"_s + QString(23, u'k'), "6: a point on the frame of its cell"},
       {pixels, strip + u"button\nkkkk\nkkkk"_s, "7: more than the 7 points of the file"},
-      {pixels, strip + u"button\nk\n"_s, "7: 1 pictures for 2 cells"},
-      {pixels, twoButtons + u"\nbutton three\nk"_s, "12: a picture too many"},
-      {pixels, u"\nsise 48 24"_s, "2: not understood: sise 48 24"},
-      {SpecialCharacterLines, u"lt 60\n\ngt 6x2"_s, "3: not a name and a number"},
       {SpecialCharacterLines, u"lt 60\nle 60"_s, "2: 60 comes twice"},
       {stencils, u"# A\nhelp\n"_s + SubEntries(27), "133: the parent"},
       {stencils, u"# A\n\n"_s + u"help \n"_s.repeated(151) + entry.mid(9), "3: 754 characters"},
       {stencils, entry + u"# \u2192"_s, "6: a character outside code page 1252"},
-      {stencils, entry + u"# B\n```\nb\n```"_s, "6: no help text"},
-      {stencils, entry + u"### B\nhelp\n```\nb\n```"_s, "6: a level is skipped"},
-      {stencils, entry + u"# B\nhelp\n# C"_s, "6: neither source nor sub-entries"},
-      {stencils, u"# A\nhelp\n```\n  <a>\n```"_s, "3: an empty source, or one with blanks"},
-      {stencils, u"# A\nhelp\n```\n<a>"_s, "3: a source without end"},
       {stencils, entry + u"# B\nHelp\n```\nb\n```"_s, "7: the help text of art.txt:2"},
-      {stencils, u"# A\ntype: loose\nhelp"_s, "2: the type is"},
-      {stencils, u"# A\nwithin: <p></p>\nhelp"_s, "2: one \"|\" marks"},
       {stencils, u"# A\nhelp\n```\n<p>\n<dove>\n```"_s,
        "5: html 4.01 strict has no element <dove>"},
       {stencils, u"# A\nhelp\n```\n</B>\n<p\nid='>' font>\n```"_s, "6: <p> has no attribute font"},
-      {stencils, u"# A\nhelp\n```\n<p>\n</p\n```"_s, "5: a tag that never ends"},
-      {stencils, entry + u"## B\nb\n```\nsrc=\"\"\n```"_s, "9: <a> has no attribute src"},
-      {stencils, u"# A\nhelp\n```\n<p id=a>\n```\n## B\nb\n```\nid=\"\"\n```"_s,
-       "3: attributes stand below it"},
-      {stencils, u"# A\nwithin: <p |></b2>\na\n```\nalign=\"left\"\n```"_s,
-       "5: <p> has no attribute align"},
-      {stencils, u"# A\nwithin: <p |></b2>\na\n```\nid=\"left\"\n```"_s,
-       "1: html 4.01 strict has no"},
   };
   for (const auto &[make, text, message] : cases) {
     try {
@@ -67,15 +43,6 @@ TEST(MakeData, RefusesASourceThatBreaksARuleWithFileAndLine) {
       EXPECT_TRUE(std::string(error.what()).starts_with("art.txt:" + message)) << error.what();
     }
   }
-}
-
-TEST(MakeData, CentresArtInItsCellAndDrawsTheFirstPointsAgainInWhatIsLeft) {
-  QString points;
-  for (const PixelRecord &record : PixelRecords(Source(twoButtons))) {
-    points += u"%1,%2 "_s.arg(int(record.x)).arg(int(record.y));
-    EXPECT_EQ(record.colour, 0x030201);
-  }
-  EXPECT_EQ(points, u"11,11 12,11 11,12 35,11 "_s.repeated(2));
 }
 
 TEST(MakeData, PutsAStencilTogetherFromItsSource) {

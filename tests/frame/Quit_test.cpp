@@ -3,77 +3,55 @@
 #include "base/mPlatform.h"
 #include "shared/FormsTest.h"
 
+using Qt::StringLiterals::operator""_s;
+
 namespace {
 
 using Answer = Dialogs::Answer;
 
-class QuitTest : public FormsTest {
- protected:
-  // Four changed documents, whose questions are answered Yes, No, Cancel and (unwritable) Yes.
-  void OpenFour() {
-    for (const char *name : {"a.html", "b.html", "c.html", "d.html"}) {
-      Type(Open(QLatin1String(name), "old"), QStringLiteral("new "));
-    }
-    mEditors::aEditorWindow[4]->SetCaption(Path(QStringLiteral("gone/d.html")));
-    dialogs.answers = {Answer::Yes, Answer::Yes, Answer::No, Answer::Cancel, Answer::Yes};
+struct QuitTest : FormsTest {
+  QuitTest() {
+    QDir().mkpath(mPlatform::Current().temporaryFolder);
+    PutFile(output, "");
   }
 
-  void ExpectFourAsked() {
+  // Quits with changed documents, whose questions are answered Yes, No, Cancel and Yes, which then
+  // can't be saved.
+  void QuitWithFour(const std::function<void()> &quit) {
+    for (const QChar name : u"abcd"_s) Type(Open(name, "old"), u"new "_s);
+    mEditors::aEditorWindow[4]->SetCaption(Path(u"gone/d"_s));
+    dialogs.answers = {Answer::Yes, Answer::Yes, Answer::No, Answer::Cancel, Answer::Yes};
+    quit();
     EXPECT_EQ(dialogs.messages.size(), 5);
     EXPECT_EQ(dialogs.messages.first(),
-              QStringLiteral("nimbara works tagwright - v1.100|Do you want to exit?|1"));
-    EXPECT_EQ(Read(QStringLiteral("a.html")), "new old\r\n");
-    for (const char *name : {"b.html", "c.html", "d.html"}) {
-      EXPECT_EQ(Read(QLatin1String(name)), "old");
-    }
+              u"nimbara works tagwright - v1.100|Do you want to exit?|1"_s);
+    EXPECT_EQ(Read(u"a"_s) + Read(u"b"_s) + Read(u"c"_s) + Read(u"d"_s), "new old\r\noldoldold");
     EXPECT_FALSE(mPublic::AnyEditorOpen());
-    EXPECT_TRUE(mPublic::bAppClosing);
     EXPECT_GE(ended, 1);
   }
 
-  QString CompilerOutput() {
-    const QString temporary = mPlatform::Current().temporaryFolder;
-    QDir().mkpath(temporary);
-    QFile file(mFolders::Join(temporary, QStringLiteral("compiler.dat")));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    return file.fileName();
-  }
+  const QString output = mFolders::Join(mPlatform::Current().temporaryFolder, u"compiler.dat"_s);
 };
 
 TEST_F(QuitTest, NoLeavesEverythingAsItIs) {
-  Type(Open(QStringLiteral("a.html"), "a"), QStringLiteral("x"));
+  Type(Open(u"a.html"_s, "a"), u"x"_s);
   dialogs.answers = {Answer::No, Answer::No};
   EXPECT_FALSE(main->close());
   main->mnuFileQuit->trigger();
-  EXPECT_TRUE(main->isVisible());
-  EXPECT_TRUE(mPublic::AnyEditorOpen());
-  EXPECT_FALSE(mPublic::bAppClosing);
+  EXPECT_TRUE(main->isVisible() && mPublic::AnyEditorOpen() && !mPublic::bAppClosing);
   EXPECT_EQ(ended, 0);
 }
 
 TEST_F(QuitTest, ThroughTheWindowEveryDocumentAsksAndTheCompilersOutputGoes) {
-  const QString output = CompilerOutput();
-  FileCommands::NewFile();
-  OpenFour();
-  EXPECT_TRUE(main->close());
-  ExpectFourAsked();
+  QuitWithFour([this] { EXPECT_TRUE(main->close()); });
   EXPECT_FALSE(QFile::exists(output));
+  main->close();
+  EXPECT_EQ(dialogs.messages.size(), 5) << "a second close ends at once";
 }
 
 TEST_F(QuitTest, ThroughTheMenuEveryDocumentAsksAndNoFileIsDeleted) {
-  const QString output = CompilerOutput();
-  OpenFour();
-  main->mnuFileQuit->trigger();
-  ExpectFourAsked();
+  QuitWithFour([this] { main->mnuFileQuit->trigger(); });
   EXPECT_TRUE(QFile::exists(output));
-}
-
-TEST_F(QuitTest, ASecondCloseEndsAtOnce) {
-  Type(Open(QStringLiteral("a.html"), "a"), QStringLiteral("x"));
-  mPublic::bAppClosing = true;
-  main->close();
-  EXPECT_TRUE(dialogs.messages.isEmpty());
-  EXPECT_GE(ended, 1);
 }
 
 }  // namespace

@@ -1,134 +1,84 @@
-
 #include <QDir>
 
-#include "frame/InstanceLock.h"
+#include "frame/CommandLine.h"
 #include "frame/frmStart.h"
 #include "shared/FormsTest.h"
+
+using Qt::StringLiterals::operator""_s;
 
 namespace {
 
 // Starts as the process does, with a program folder that the test has prepared.
-class StartTest : public testing::Test {
- protected:
+struct StartTest : testing::Test {
   StartTest() {
     SetEndProgram([] {});
-    SetCommandLine({});
+    mPublic::recPreferences = StandardPreferences();
+    mPublic::recPreferences.ShowStartWindow = false;
+    EXPECT_TRUE(mPublic::WritePreferences());
   }
   ~StartTest() override { mForms::DestroyAll(); }
-
-  void SetSplash(bool shown) {
-    mPublic::ReadPreferences();
-    mPublic::recPreferences.ShowStartWindow = shown;
-    ASSERT_TRUE(mPublic::WritePreferences());
-  }
 
   ScriptedDialogs &dialogs = ScriptedDialogs::Install();
 };
 
-const QString defect = QStringLiteral(
-    "Tagwright - Critical Message|The application installation of tagwright is defect, please run "
-    "the REPAIR-Function in Setup|0");
-
 TEST_F(StartTest, TheSplashStandsUntilItsTimerOrAClick) {
-  SetSplash(true);
-  QPointer<frmStart> splash = Default<frmStart>();
-  ASSERT_TRUE(splash->MayStart());
-  EXPECT_TRUE(splash->isVisible());
-  EXPECT_EQ(splash->size(), splash->imgfrmStart->size());
-  EXPECT_EQ(splash->timTimer->interval(), 5000);
-  EXPECT_EQ(mForms::Find(QStringLiteral("mdiMain")), nullptr);
+  mPublic::recPreferences.ShowStartWindow = true;
+  EXPECT_TRUE(mPublic::WritePreferences());
+  auto *splash = Default<frmStart>();
+  EXPECT_TRUE(splash->MayStart() && splash->isVisible() && splash->timTimer->isActive());
+  EXPECT_EQ(mForms::Find(u"mdiMain"_s), nullptr);
   QTest::mouseClick(splash->lblStart, Qt::LeftButton);
-  EXPECT_TRUE(splash->IsUnloaded());
-  EXPECT_TRUE(Default<mdiMain>()->isVisible());
-  EXPECT_TRUE(Default<mdiMain>()->timloadStencils->isActive());
-}
-
-TEST_F(StartTest, AnyBytesInThePreferencesStart) {
-  QFile file(mFolders::InProgramFolder(QStringLiteral("preferences.dat")));
-  for (const char byte : {'\xFF', '\x7F', '\0'}) {
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(3557, byte));
-    file.close();
-    auto *splash = Default<frmStart>();
-    ASSERT_TRUE(splash->MayStart());
-    if (!splash->IsUnloaded()) QMetaObject::invokeMethod(splash->timTimer, "timeout");
-    auto *main = Default<mdiMain>();
-    EXPECT_TRUE(main->isVisible());
-    EXPECT_TRUE(mEditors::OpenWindow());
-    mEditors::Active()->close();
-    delete main;
-  }
+  EXPECT_TRUE(splash->IsUnloaded() && Default<mdiMain>()->isVisible());
 }
 
 TEST_F(StartTest, ADefectInstallationIsTold) {
-  const QString path = mFolders::InProgramFolder(QStringLiteral("sc.dat"));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::Append));
-  file.write("x");
-  file.close();
+  PutFile(mFolders::InProgramFolder(u"sc.dat"_s), "x");
   dialogs.answers = {Dialogs::Answer::Ok};
-  auto *splash = Default<frmStart>();
-  EXPECT_FALSE(splash->MayStart());
-  EXPECT_FALSE(splash->isVisible());
-  EXPECT_EQ(dialogs.messages, QStringList{defect});
-  EXPECT_EQ(mForms::Find(QStringLiteral("mdiMain")), nullptr);
+  EXPECT_FALSE(Default<frmStart>()->MayStart());
+  EXPECT_EQ(dialogs.messages.join(u'#'),
+            u"Tagwright - Critical Message|The application installation of tagwright is defect, "
+            "please run the REPAIR-Function in Setup|0"_s);
+  EXPECT_EQ(mForms::Find(u"mdiMain"_s), nullptr);
 }
 
 TEST_F(StartTest, StripsAreDrawnAndMissingUntestedFilesDoNoHarm) {
-  SetSplash(false);
-  QFile::remove(mFolders::InProgramFolder(QStringLiteral("File0009.dat")));
-  QFile::remove(mFolders::InProgramFolder(QStringLiteral("htLib0001.htf")));
-  EXPECT_TRUE(Default<frmStart>()->IsUnloaded());
-  auto *main = Default<mdiMain>();
-  const auto blank = [](const ToolStrip *strip) {
-    QImage empty(strip->Artwork().size(), strip->Artwork().format());
-    empty.fill(Qt::transparent);
-    return strip->Artwork() == empty;
-  };
-  EXPECT_TRUE(blank(main->picJava));
-  for (const ToolStrip *strip : {main->picButtons, main->picLeft, main->picBottom, main->picRight,
-                                 main->picHtmlTextOptions, main->picLeftArrow}) {
-    EXPECT_FALSE(blank(strip)) << strip->objectName().toStdString();
+  for (const QString &name : {u"File0009.dat"_s, u"htLib0001.htf"_s}) {
+    EXPECT_TRUE(QFile::remove(mFolders::InProgramFolder(name)));
   }
-  EXPECT_EQ(main->cboFontsize->currentText(), QStringLiteral("12 pt"));
-  EXPECT_EQ(main->windowTitle(),
-            QStringLiteral("nimbara works tagwright - hypertext authoring bench  v1.100 "));
-  EXPECT_EQ(main->trwStencils->Node(1)->text(0), QStringLiteral("Standard Stencils - html 4.01"));
+  Default<frmStart>();
+  const QImage &drawn = Default<mdiMain>()->picRight->Artwork();
+  QImage blank(drawn.size(), drawn.format());
+  blank.fill(Qt::transparent);
+  EXPECT_NE(drawn, blank);
 }
 
 TEST_F(StartTest, TheCommandLinesFileIsOpenedIfThereIsOne) {
-  SetSplash(false);
-  QTemporaryDir folder;
-  QFile page(folder.filePath(QStringLiteral("a page.html")));
-  ASSERT_TRUE(page.open(QIODevice::WriteOnly));
-  page.write("<p>");
-  page.close();
-  SetCommandLine(QStringLiteral("\"%1\"").arg(page.fileName()));
-  Default<frmStart>();
-  EXPECT_FALSE(mPublic::AnyEditorOpen()) << "quotes are part of the name";
-  delete Default<mdiMain>();
-
-  SetCommandLine(QStringLiteral("  %1 ").arg(QDir().relativeFilePath(page.fileName())));
-  Default<frmStart>();
-  ASSERT_TRUE(mEditors::Active());
-  EXPECT_EQ(mEditors::Active()->Caption(), page.fileName());
-  mEditors::Active()->close();
+  const QTemporaryDir folder;
+  QDir::setCurrent(folder.path());
+  PutFile(u"a page.html"_s, "<p>");
+  const char *const words[] = {"tagwright", "a", "page.html"};
+  QString opened;
+  for (const QString &line :
+       {u"\"a page.html\""_s, CommandLineText(1, words), CommandLineText(3, words)}) {
+    SetCommandLine(line);
+    Default<frmStart>();
+    opened += u'|' + (mEditors::Active() ? mEditors::Active()->Caption() : QString());
+    mForms::DestroyAll();
+  }
+  EXPECT_EQ(opened, u"|||"_s + folder.filePath(u"a page.html"_s)) << "quotes are part of the name";
 }
 
 TEST_F(StartTest, TheStencilTimerFiresOnceButNotIntoAnOpenMenu) {
-  SetSplash(false);
   Default<frmStart>();
   auto *main = Default<mdiMain>();
   QTimer *timer = main->timloadStencils;
-  EXPECT_EQ(timer->interval(), 4000);
   main->mnuFile->popup(QPoint(20, 20));
-  ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
-  EXPECT_TRUE(main->mnuFile->isVisible());
-  EXPECT_TRUE(timer->isActive());
+  QMetaObject::invokeMethod(timer, "timeout");
+  EXPECT_TRUE(main->mnuFile->isVisible() && timer->isActive());
   main->mnuFile->close();
-  ASSERT_TRUE(QMetaObject::invokeMethod(timer, "timeout"));
+  QMetaObject::invokeMethod(timer, "timeout");
   EXPECT_FALSE(timer->isActive());
-  EXPECT_EQ(mForms::Find(QStringLiteral("frmDatabaseIsLoading")), nullptr);
+  EXPECT_EQ(mForms::Find(u"frmDatabaseIsLoading"_s), nullptr);
 }
 
 }  // namespace

@@ -2,63 +2,33 @@
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QSet>
-#include <QXmlStreamReader>
 
 #include "shared/Files.h"
 
+using Qt::StringLiterals::operator""_s;
+
 namespace {
 
-class HelpPagesTest : public testing::Test {
- protected:
-  QString Page(const QString &name) const {
-    return QString::fromLatin1(FileBytes(folder_.filePath(name)));
-  }
-  QStringList Matches(const QString &text, const char *pattern) const {
-    QStringList found;
-    auto matches = QRegularExpression(QLatin1String(pattern)).globalMatch(text);
-    while (matches.hasNext()) found << matches.next().captured(1);
-    return found;
-  }
-
-  const QDir folder_{QStringLiteral(TAGWRIGHT_DATA_DIR "/help")};
-};
-
-TEST_F(HelpPagesTest, EveryLinkLeadsSomewhereAndEveryPageIsReached) {
-  QStringList pages{QStringLiteral("index.htm")};
-  QSet<QString> seen(pages.cbegin(), pages.cend());
-  int links = 0;
+TEST(HelpPagesTest, EveryLinkLeadsSomewhereAndEveryPageIsReached) {
+  const QDir folder(QStringLiteral(TAGWRIGHT_DATA_DIR "/help"));
+  const auto text = [&](const QString &page) {
+    return QString::fromLatin1(FileBytes(folder.filePath(page)));
+  };
+  const QRegularExpression link(u"(?:href|src)=\"([^\"#]*)#?([^\"]*)\""_s);
+  QStringList pages{u"index.htm"_s};
   for (qsizetype i = 0; i < pages.size(); ++i) {
-    for (const QString &link : Matches(Page(pages[i]), "(?:href|src)=\"([^\"]*)\"")) {
-      ++links;
-      const QString file = link.startsWith(u'#') ? pages[i] : link.section(u'#', 0, 0);
-      EXPECT_TRUE(QFile::exists(folder_.filePath(file))) << qPrintable(pages[i] + u' ' + link);
-      const QString anchor = link.section(u'#', 1);
-      EXPECT_TRUE(anchor.isEmpty() ||
-                  Page(file).contains(QStringLiteral(" id=\"") + anchor + QStringLiteral("\"")))
-          << qPrintable(pages[i] + u' ' + link);
-      if (file.endsWith(QStringLiteral(".htm")) && !seen.contains(file)) {
-        seen << file;
-        pages << file;
-      }
+    for (const auto &found : link.globalMatch(text(pages[i]))) {
+      const QString file = found.captured(1).isEmpty() ? pages[i] : found.captured(1);
+      EXPECT_TRUE(folder.exists(file)) << qPrintable(pages[i] + u' ' + file);
+      const QString anchor = found.captured(2);
+      EXPECT_TRUE(anchor.isEmpty() || text(file).contains(u" id=\"%1\""_s.arg(anchor)))
+          << qPrintable(pages[i] + u' ' + found.captured());
+      if (file.endsWith(u".htm") && !pages.contains(file)) pages << file;
     }
   }
-  EXPECT_GT(links, 80);
-  const QStringList all = folder_.entryList({QStringLiteral("*.htm")}, QDir::Files);
-  EXPECT_EQ(seen, QSet<QString>(all.cbegin(), all.cend()));
-}
-
-// Browsers forgive a tag left open; the look of the rest of the page doesn't.
-TEST_F(HelpPagesTest, EveryTagIsClosed) {
-  for (const QString &name : folder_.entryList({QStringLiteral("*.htm")})) {
-    QString page = Page(name);
-    page.replace(QRegularExpression(QStringLiteral("<((?:meta|link|br|img|hr)\\b[^>]*)>")),
-                 QStringLiteral("<\\1/>"));
-    QXmlStreamReader reader(page);
-    while (!reader.atEnd()) reader.readNext();
-    EXPECT_FALSE(reader.hasError())
-        << qPrintable(name + u' ' + reader.errorString()) << " in line " << reader.lineNumber();
-  }
+  pages.sort();
+  EXPECT_EQ(pages, folder.entryList({u"*.htm"_s}));
+  EXPECT_GT(pages.size(), 5);
 }
 
 }  // namespace

@@ -1,252 +1,125 @@
-#include <sys/stat.h>
-
 #include <QDir>
-#include <QMenu>
-#include <QRegularExpression>
 
 #include "base/mPlatform.h"
 #include "shared/FormsTest.h"
 #include "shared/ScriptedPrograms.h"
 
+using Qt::StringLiterals::operator""_s;
+
 namespace {
 
 using Answer = Dialogs::Answer;
-using Outcome = Programs::Outcome;
 using Application = Programs::Application;
-
-const QString noApplication = QStringLiteral(
-    "Information|Could not find any preview application!"
-    "\r\nDo You want to open the preferences window?|1");
-const QString question =
-    QStringLiteral("Question|Do you want to save this file before previewing?|2");
 
 class PreviewTest : public FormsTest {
  protected:
-  PreviewTest() {
-    QDir(temporary).removeRecursively();
-    programs.toFile = Application{QStringLiteral("viewer")};
-    SetPreferences([](Preferences &) {});
-  }
-  ~PreviewTest() override {
-    SetPreferences([](Preferences &) {});
-    QDir(temporary).removeRecursively();
-    QFile::remove(temporary);
-    Programs::Set(nullptr);
-  }
-
-  // The preview looks at the file alone.
-  void SetPreferences(const std::function<void(Preferences &)> &change) {
-    Preferences record = StandardPreferences();
-    change(record);
-    ASSERT_TRUE(
-        WritePreferencesFile(mFolders::InProgramFolder(QStringLiteral("preferences.dat")), record));
-  }
+  PreviewTest() { programs.toFile = Application{u"viewer"_s}; }
+  ~PreviewTest() override { Programs::Set(nullptr); }
 
   frmHTMLChild *OpenUnsaved(const QString &text) {
     frmHTMLChild *editor = mEditors::OpenWindow();
-    editor->SetCaption(QStringLiteral("<unsaved>"));
-    editor->txthtml->SetText(text);
+    editor->SetCaption(u"<unsaved>"_s);
+    Type(editor, text);
     return editor;
   }
 
-  void Preview(std::deque<Answer> answers = {}) {
+  // Previews with these answers; what has been started and opened.
+  QString Preview(std::deque<Answer> answers = {}) {
     dialogs.answers = std::move(answers);
     main->picLeft->ButtonUp(10);
     EXPECT_TRUE(dialogs.answers.empty()) << "a question was not put";
+    return Shown();
   }
-
-  // What has been started and opened since the last look.
   QString Shown() {
     QStringList shown = std::exchange(programs.opened, {});
     for (const auto &command : std::exchange(programs.started, {})) {
-      shown << (QStringList(command.program) + command.arguments).join(u'|');
+      shown << command.program << command.arguments;
     }
-    return shown.join(u'\n');
+    return shown.join(u'|');
   }
 
   const QString temporary = mPlatform::Current().temporaryFolder;
-  const QString target = temporary + QStringLiteral("/0001.html");
   ScriptedPrograms &programs = ScriptedPrograms::Install();
 };
 
-TEST_F(PreviewTest, ASavedDocumentIsShownFromItsFileWithoutAQuestion) {
-  Preview();
-  EXPECT_EQ(Shown(), QString()) << "no document";
-  frmHTMLChild *editor = Open(QStringLiteral("a; $(b).html"), "text");
-  editor->txthtml->SetText(QStringLiteral("not typed, so not changed"));
-  Preview();
-  EXPECT_EQ(Shown(), QStringLiteral("viewer ") + editor->Caption());
-  EXPECT_EQ(Read(QStringLiteral("a; $(b).html")), "text");
-  EXPECT_FALSE(QFile::exists(temporary));
-}
-
 TEST_F(PreviewTest, ChangesAreSavedOnlyAfterYesAndAsTheyStand) {
-  frmHTMLChild *editor = Open(QStringLiteral("a.html"), "a  ");
-  Type(editor, QStringLiteral(" b"));
-  Preview({Answer::Cancel});
-  EXPECT_EQ(Shown(), QString());
-  Preview({Answer::No});
-  EXPECT_EQ(Shown(), QStringLiteral("viewer ") + editor->Caption());
-  EXPECT_EQ(Read(QStringLiteral("a.html")), "a  ");
-  EXPECT_TRUE(mPublic::aEditorState[1].changed);
-  Preview({Answer::Yes});
-  EXPECT_EQ(Shown(), QStringLiteral("viewer ") + editor->Caption());
-  EXPECT_EQ(Read(QStringLiteral("a.html")), " ba  ");
+  EXPECT_EQ(Preview(), QString()) << "no document";
+  frmHTMLChild *editor = Open(u"a.html"_s, "a  ");
+  const QString shown = u"viewer "_s + editor->Caption();
+  EXPECT_EQ(Preview(), shown);
+  Type(editor, u" b"_s);
+  EXPECT_EQ(Preview({Answer::Cancel}), QString());
+  EXPECT_EQ(Preview({Answer::No}), shown);
+  EXPECT_EQ(Read(u"a.html"_s), "a  ");
+  EXPECT_EQ(Preview({Answer::Yes}), shown);
+  EXPECT_EQ(Read(u"a.html"_s), " ba  ");
+  EXPECT_EQ(dialogs.messages,
+            QStringList(3, u"Question|Do you want to save this file before previewing?|2"_s));
   EXPECT_FALSE(mPublic::aEditorState[1].changed);
-  EXPECT_EQ(dialogs.messages, QStringList(3, question));
-
-  Type(editor, QStringLiteral("c"));
+  Type(editor, u"c"_s);
   dialogs.whileOpen = [editor] { Unload(*editor); };
-  dialogs.answers = {Answer::Yes, Answer::No};
-  main->mnuFileShowPreview->trigger();
-  EXPECT_EQ(Shown(), QString()) << "closed under the question";
+  EXPECT_EQ(Preview({Answer::Yes, Answer::No}), QString()) << "closed under the question";
 }
 
 TEST_F(PreviewTest, AnUnsavedDocumentIsNamedFirst) {
-  frmHTMLChild *editor = OpenUnsaved({});
-  Type(editor, QStringLiteral(" text "));
-  dialogs.files = {std::nullopt, QString(), Path(QStringLiteral("new.html"))};
-  Preview({Answer::Yes});
-  Preview({Answer::Yes});
-  EXPECT_EQ(Shown(), QString()) << "no name";
-  EXPECT_TRUE(mPublic::aEditorState[1].changed);
-  Preview({Answer::Yes});
-  EXPECT_EQ(Shown(), QStringLiteral("viewer ") + Path(QStringLiteral("new.html")));
-  EXPECT_EQ(editor->Caption(), Path(QStringLiteral("new.html")));
-  EXPECT_EQ(Read(QStringLiteral("new.html")), "text\r\n");
+  OpenUnsaved(u" text "_s);
+  dialogs.files = {std::nullopt, Path(u"new.html"_s)};
+  EXPECT_EQ(Preview({Answer::Yes}), QString()) << "no name";
+  EXPECT_EQ(Preview({Answer::Yes}), u"viewer "_s + Path(u"new.html"_s));
+  EXPECT_EQ(Read(u"new.html"_s), "text\r\n");
   EXPECT_FALSE(mPublic::aEditorState[1].changed);
-  EXPECT_EQ(main->trwOpenFiles->NodeByKey(QStringLiteral("aaaa"))->childCount(), 1);
 }
 
 TEST_F(PreviewTest, AnUnsavedDocumentIsShownFromTheTemporaryFolder) {
-  frmHTMLChild *editor = OpenUnsaved(QStringLiteral("  one  "));
-  Preview({Answer::Cancel});
-  EXPECT_EQ(dialogs.messages.takeFirst(),
-            QStringLiteral("Temporary data questions|The local folder ") + temporary +
-                QStringLiteral(" is necessary for temporary data?\r\n"
-                               "Press Ok to generate it, Cancel to quit Preview.|3"));
+  OpenUnsaved(u"  one  "_s);
+  EXPECT_EQ(Preview({Answer::No, Answer::Cancel}), QString());
+  EXPECT_EQ(dialogs.messages.value(1),
+            u"Temporary data questions|The local folder %1 is necessary for temporary data?\r\n"
+            "Press Ok to generate it, Cancel to quit Preview.|3"_s.arg(temporary));
   EXPECT_FALSE(QFile::exists(temporary));
-  Preview({Answer::Ok});
-  struct stat entry;
-  ASSERT_EQ(stat(QFile::encodeName(temporary).constData(), &entry), 0);
-  EXPECT_EQ(entry.st_mode & 07777, 0700u);
-  EXPECT_EQ(FileBytes(target), "one\r\n");
-  Type(editor, QStringLiteral("two"));
-  Preview({Answer::No});
-  EXPECT_EQ(FileBytes(target), "two  one\r\n");
-  EXPECT_EQ(Shown(), QStringLiteral("viewer %1\nviewer %1").arg(target));
-  EXPECT_EQ(editor->Caption(), QStringLiteral("<unsaved>"));
+  EXPECT_EQ(Preview({Answer::No, Answer::Ok}), u"viewer "_s + temporary + u"/0001.html"_s);
+  EXPECT_EQ(FileBytes(temporary + u"/0001.html"_s), "one\r\n");
 
-  ASSERT_TRUE(QDir(temporary).removeRecursively());
-  ASSERT_TRUE(QFile::link(folder.path(), temporary));
-  Preview({Answer::No});
-  EXPECT_EQ(Shown(), QString()) << "a link is not followed";
-  EXPECT_FALSE(QFile::exists(Path(QStringLiteral("0001.html"))));
-
-  for (const char *end : {"", "/"}) {
-    SetPreferences([&](Preferences &record) {
-      record.TemporaryPathStandard = false;
-      record.OtherTemporaryPath.Set(folder.path() + QLatin1String(end));
-    });
-    Preview({Answer::No});
-    EXPECT_EQ(Shown(), QStringLiteral("viewer ") + Path(QStringLiteral("0001.html")));
-    EXPECT_EQ(Read(QStringLiteral("0001.html")), "two  one\r\n");
-  }
+  ASSERT_TRUE(QDir(temporary).removeRecursively() && QFile::link(folder.path(), temporary));
+  EXPECT_EQ(Preview({Answer::No}), QString()) << "a link is not followed";
+  EXPECT_FALSE(QFile::exists(Path(u"0001.html"_s)));
+  mPublic::recPreferences.TemporaryPathStandard = false;
+  mPublic::recPreferences.OtherTemporaryPath.Set(folder.path());
+  mPublic::WritePreferences();
+  EXPECT_EQ(Preview({Answer::No}), u"viewer "_s + Path(u"0001.html"_s));
+  EXPECT_EQ(Read(u"0001.html"_s), "one\r\n");
 }
 
-TEST_F(PreviewTest, CommandsGetThePathAsOneArgument) {
-  PutFile(Path(QStringLiteral("my viewer")), "");
-  QFile::setPermissions(Path(QStringLiteral("my viewer")), QFile::ReadOwner | QFile::ExeOwner);
-  for (const char *name : {"a b.php", "-c.php", "'d\".php", "e;`f`$(g)&.php", "\xe9.php"}) {
-    frmHTMLChild *editor = Open(QString::fromLatin1(name), "");
-    SetPreferences([this](Preferences &record) {
-      record.FileBinding = true;
-      record.FileExtension.Set(u"PHP");
-      record.FileBindingCommand.Set(Path(QStringLiteral("my viewer")) + QStringLiteral(" -x  -y"));
-    });
-    Preview();
-    EXPECT_EQ(Shown(),
-              Path(QStringLiteral("my viewer")) + QStringLiteral("|-x|-y|") + editor->Caption());
-    SetPreferences([](Preferences &record) {
-      record.OtherPreViewer = true;
-      record.ApplicationPath.Set(u"show;rm $HOME");
-    });
-    Preview();
-    EXPECT_EQ(Shown(), QStringLiteral("show;rm|$HOME|") + editor->Caption());
-  }
-  Outcome outcomes[] = {Outcome::NotFound, Outcome::Failed};
-  programs.outcomes.assign(std::begin(outcomes), std::end(outcomes));
-  Preview();
-  EXPECT_TRUE(dialogs.messages.isEmpty()) << "nothing is said of the preview application";
-  SetPreferences([](Preferences &record) {
-    record.FileBinding = true;
-    record.FileExtension.Set(u"php");
-  });
+TEST_F(PreviewTest, ABoundCommandGetsThePath) {
+  mPublic::recPreferences.FileBinding = true;
+  mPublic::recPreferences.FileExtension.Set(u"PHP");
+  mPublic::recPreferences.FileBindingCommand.Set(u"viewer  -y");
+  mPublic::WritePreferences();
+  Open(u"a b.php"_s, "");
+  EXPECT_EQ(Preview(), u"viewer|-y|"_s + Path(u"a b.php"_s));
+  programs.outcomes = {Programs::Outcome::Failed};
   Preview({Answer::Ok});
-  EXPECT_EQ(dialogs.messages.takeFirst(),
-            QStringLiteral("File Binding Alert|File Binding does not exist or path is wrong!\r\n"
-                           "Please try again!|0"));
+  EXPECT_EQ(dialogs.messages.join(u'#'),
+            u"File Binding Alert|File Binding does not exist or path is wrong!\r\n"
+            "Please try again!|0"_s);
 }
 
 TEST_F(PreviewTest, ThisProgramIsNeverTheBrowser) {
-  const Application self{QStringLiteral("self"), true};
-  const Application web{QStringLiteral("web"), false};
-  frmHTMLChild *editor = Open(QStringLiteral("a.html"), "");
-  for (const auto &[toFile, toWeb, id] :
-       {std::tuple(std::optional(self), std::optional(web), "web"),
-        {self, self, ""},
-        {self, std::nullopt, ""},
-        {std::nullopt, web, ""}}) {
-    programs.toFile = toFile;
-    programs.toWeb = toWeb;
-    const bool found = *id;
-    Preview(found ? std::deque<Answer>{} : std::deque{Answer::No});
-    EXPECT_EQ(Shown(), found ? QLatin1String(id) + u' ' + editor->Caption() : QString());
-    EXPECT_EQ(std::exchange(dialogs.messages, {}), QStringList(!found, noApplication));
-
-    dialogs.answers.assign(!found, Answer::Ok);
-    main->picBottom->ButtonUp(2);
-    EXPECT_EQ(Shown(), found ? QLatin1String(id) + u' ' +
-                                   mFolders::InProgramFolder(QStringLiteral("help/index.htm"))
-                             : QString());
-    EXPECT_EQ(std::exchange(dialogs.messages, {}),
-              QStringList(!found, QStringLiteral("Information|Could not find any preview "
-                                                 "application!|0")));
-  }
-}
-
-TEST_F(PreviewTest, YesOpensThePreferences) {
-  programs.toFile.reset();
-  Open(QStringLiteral("a.html"), "");
+  Open(u"a.html"_s, "");
+  programs.toFile = programs.toWeb = Application{u"self"_s, true};
   int opened = 0;
-  main->mnuOptionsPreferences->disconnect();
-  main->mnuOptionsPreferences->setEnabled(true);
   QObject::connect(main->mnuOptionsPreferences, &QAction::triggered, main, [&] { ++opened; });
-  Preview({Answer::No});
-  EXPECT_EQ(opened, 0);
-  Preview({Answer::Yes});
+  EXPECT_EQ(Preview({Answer::No}) + Preview({Answer::Yes}), QString());
   EXPECT_EQ(opened, 1);
-}
-
-TEST_F(PreviewTest, TheManualTellsEveryMenuEntry) {
-  QString manual;
-  const QDir help(QStringLiteral(TAGWRIGHT_DATA_DIR "/help"));
-  for (const QString &page : help.entryList({QStringLiteral("*.htm")})) {
-    manual += QString::fromLatin1(FileBytes(help.filePath(page)));
-  }
-  int entries = 0;
-  for (const QMenu *menu :
-       main->mnuMain->findChildren<QMenu *>(QRegularExpression(QStringLiteral("^mnu")))) {
-    for (const QAction *entry : menu->actions()) {
-      if (entry->isSeparator()) continue;
-      ++entries;
-      const QString caption = entry->text().remove(u'&').toHtmlEscaped();
-      EXPECT_TRUE(manual.contains(u'>' + caption + QStringLiteral("</dt>")) ||
-                  manual.contains(u'>' + caption + QStringLiteral(" <span")))
-          << qPrintable(caption);
-    }
-  }
-  EXPECT_GT(entries, 40);
+  dialogs.answers = {Answer::Ok};
+  main->picBottom->ButtonUp(2);
+  const QString none = u"Information|Could not find any preview application!"_s;
+  EXPECT_EQ(
+      dialogs.messages.mid(1),
+      (QStringList{none + u"\r\nDo You want to open the preferences window?|1"_s, none + u"|0"_s}));
+  programs.toWeb = Application{u"web"_s, false};
+  main->picBottom->ButtonUp(2);
+  EXPECT_EQ(Shown(), u"web "_s + mFolders::InProgramFolder(u"help/index.htm"_s));
 }
 
 }  // namespace

@@ -5,11 +5,11 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
-#include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "base/TextFile.h"
+#include "shared/Files.h"
 
 namespace {
 
@@ -17,34 +17,22 @@ QString Text(const char *latin1) {
   return QString::fromLatin1(latin1);
 }
 
-class RichTextBoxTest : public testing::Test {
- protected:
-  RichTextBoxTest() { box.show(); }
+struct RichTextBoxTest : testing::Test {
   RichTextBox box;
 };
 
 TEST_F(RichTextBoxTest, PositionsCountBothCharactersOfALineEnd) {
   box.SetText(Text("ab\r\n\ncd\re"));
   EXPECT_EQ(box.Text(), Text("ab\r\n\r\ncd\r\ne"));
-  EXPECT_EQ(box.TextLength(), 11);
   // Every position that stands before a character comes back as it was set; one inside a line end
   // means the end of that line.
-  for (const auto &[set, got, line] : {std::tuple{0, 0, 0},
-                                       {2, 2, 0},
-                                       {3, 2, 0},
-                                       {4, 4, 1},
-                                       {5, 4, 1},
-                                       {6, 6, 2},
-                                       {8, 8, 2},
-                                       {10, 10, 3},
-                                       {11, 11, 3},
-                                       {99, 11, 3},
-                                       {-5, 0, 0}}) {
-    box.SetSelStart(set);
-    EXPECT_EQ(box.SelStart(), got) << set;
-    EXPECT_EQ(box.GetLineFromChar(set), line) << set;
-    EXPECT_EQ(box.CaretLine(), line) << set;
+  QString seen;
+  for (const int position : {0, 2, 3, 4, 5, 6, 8, 10, 11, 99, -5}) {
+    box.SetSelStart(position);
+    EXPECT_EQ(box.GetLineFromChar(position), box.CaretLine());
+    seen += QStringLiteral(" %1:%2").arg(box.CaretLine()).arg(box.SelStart());
   }
+  EXPECT_EQ(seen, Text(" 0:0 0:2 0:2 1:4 1:4 2:6 2:8 3:10 3:11 3:11 0:0"));
   EXPECT_EQ(box.LineIndex(2), 6);
   EXPECT_EQ(box.LineIndex(4), -1);
   EXPECT_EQ(box.LineLength(7), 2);
@@ -58,14 +46,11 @@ TEST_F(RichTextBoxTest, SelectionIsReplacedInOneUndoStepAndEmptyTextTouchesNothi
   box.SetSelText(Text("X\r\nY"));
   EXPECT_EQ(box.Text(), Text("onX\r\nYo\r\nthree"));
   EXPECT_EQ(box.SelStart(), 6);
-  EXPECT_EQ(box.SelLength(), 0);
   box.undo();
   EXPECT_EQ(box.Text(), Text("one\r\ntwo\r\nthree"));
   box.SetSelStart(0);
   box.SetSelText({});
   EXPECT_TRUE(box.document()->isRedoAvailable());
-  box.SetSelStart(5);
-  EXPECT_EQ(box.SelLength(), 0) << "setting the start drops the selection";
 }
 
 TEST_F(RichTextBoxTest, WhatTheCodePageLacksArrivesAsAReference) {
@@ -90,18 +75,13 @@ TEST_F(RichTextBoxTest, ShiftReturnIsALineEndThatTheFileKeeps) {
   QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
   QTest::keyClicks(&box, Text("b"));
   EXPECT_EQ(box.Text(), Text("a\r\nb"));
-  EXPECT_EQ(box.LineIndex(1), 3);
-  QTest::keyClick(&box, 'q', Qt::AltModifier);
-  EXPECT_EQ(box.Text(), Text("a\r\nb")) << "a letter with Alt is a menu's";
 }
 
 TEST_F(RichTextBoxTest, CopyKeepsNoBreakSpacesAndHasNoCarriageReturns) {
   box.SetText(Text("a\xA0z\r\nc"));
   box.selectAll();
   box.copy();
-  const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-  EXPECT_EQ(data->text(), Text("a\xA0z\nc"));
-  EXPECT_FALSE(data->hasHtml());
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), Text("a\xA0z\nc"));
 }
 
 TEST_F(RichTextBoxTest, EveryByteOfAFileSurvives) {
@@ -111,21 +91,12 @@ TEST_F(RichTextBoxTest, EveryByteOfAFileSurvives) {
     if (byte != '\r' && byte != '\n') bytes += char(byte);
   }
   bytes += "\r\n" + bytes + "\r\n\r\n";
-  const QString path = folder.filePath(Text("all.bin"));
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes);
-  file.close();
+  const QString path = folder.filePath(Text("all.bin")), copy = path + u'2';
+  PutFile(path, bytes);
   ASSERT_TRUE(box.LoadFile(path));
   EXPECT_EQ(box.document()->blockCount(), 4);
-  const QString copy = folder.filePath(Text("copy.bin"));
   ASSERT_TRUE(box.SaveFile(copy));
-  QFile written(copy);
-  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-  EXPECT_EQ(written.readAll(), bytes);
-  EXPECT_FALSE(box.LoadFile(folder.path()));
-  EXPECT_FALSE(box.LoadFile(Text("/dev/zero")));
-  EXPECT_EQ(box.document()->blockCount(), 4) << "a file that can't be loaded leaves the text";
+  EXPECT_EQ(FileBytes(copy), bytes);
 }
 
 TEST_F(RichTextBoxTest, NoEditMakesALineThatIsTooLong) {
@@ -133,7 +104,6 @@ TEST_F(RichTextBoxTest, NoEditMakesALineThatIsTooLong) {
   box.SetText(half + Text("\r\n") + half);
   box.SetSelStart(0);
   box.SetSelText(half + Text("y"));
-  EXPECT_EQ(box.LineLength(0), half.size());
   box.SetSelText(half);
   EXPECT_EQ(box.LineLength(0), TextFile::LongestLine) << "the limit itself fits";
   QTest::keyClick(&box, 'z');
@@ -143,14 +113,6 @@ TEST_F(RichTextBoxTest, NoEditMakesALineThatIsTooLong) {
   EXPECT_EQ(box.document()->blockCount(), 2) << "a deleted line end would join two lines";
   QTest::keyClick(&box, Qt::Key_Backspace);
   EXPECT_EQ(box.LineLength(0), TextFile::LongestLine - 1);
-}
-
-TEST_F(RichTextBoxTest, SelectionCannotBeDraggedOut) {
-  box.SetText(Text("some words"));
-  box.selectAll();
-  QTest::mousePress(box.viewport(), Qt::LeftButton, {}, box.cursorRect().center());
-  EXPECT_FALSE(box.textCursor().hasSelection());
-  EXPECT_FALSE(box.acceptDrops() || box.viewport()->acceptDrops());
 }
 
 }  // namespace

@@ -16,18 +16,12 @@ class frmSample : public DialogForm {
   Q_OBJECT
 
  public:
-  bool agrees = true;
-  int asked = 0;
-  int loaded = 0;
-  UnloadMode mode = UnloadMode::Code;
-  std::function<void()> whileAsked;
+  std::function<bool()> agrees = [] { return true; };
+  QList<UnloadMode> asked;
 
-  void Load() override { ++loaded; }
   bool QueryUnload(UnloadMode by) override {
-    ++asked;
-    mode = by;
-    if (whileAsked) whileAsked();
-    return agrees;
+    asked << by;
+    return agrees();
   }
 };
 
@@ -36,24 +30,19 @@ TEST(mFormsTest, ADefaultInstanceLivesUntilItAgreesToGo) {
   EXPECT_EQ(mForms::Find(QStringLiteral("frmSample")), nullptr) << "asking makes none";
   QPointer<frmSample> form = Default<frmSample>();
   EXPECT_EQ(Default<frmSample>(), form);
-  EXPECT_EQ(form->loaded, 1);
   auto *timer = new QTimer(form);
   timer->start(1);
   form->show();
 
-  form->agrees = false;
+  form->agrees = [] { return false; };
   QTest::keyClick(form, Qt::Key_Escape);
-  EXPECT_TRUE(form->isVisible());
-  EXPECT_EQ(form->mode, UnloadMode::ControlMenu);
   EXPECT_FALSE(form->close());
-  EXPECT_EQ(form->asked, 2);
+  EXPECT_TRUE(form->isVisible());
+  EXPECT_EQ(form->asked, QList<UnloadMode>(2, UnloadMode::ControlMenu));
 
-  form->agrees = true;
-  form->whileAsked = [form] { EXPECT_FALSE(Unload(*form)) << "it is being asked"; };
+  form->agrees = [form] { return !Unload(*form); };  // it is being asked
   EXPECT_TRUE(Unload(*form));
-  EXPECT_TRUE(form->IsUnloaded());
-  EXPECT_FALSE(form->isVisible());
-  EXPECT_FALSE(timer->isActive());
+  EXPECT_TRUE(form->IsUnloaded() && !form->isVisible() && !timer->isActive());
   EXPECT_NE(Default<frmSample>(), form) << "the next use makes a new one";
   DoEvents();
   EXPECT_TRUE(form) << "a handler that pumps may still be on the stack";
@@ -69,10 +58,10 @@ TEST(mFormsTest, AFormIsNotDestroyedInsideANestedLoop) {
     Unload(*form);
     QTimer::singleShot(0, &inner, [&] {
       mForms::DestroyLaidAside();
-      EXPECT_TRUE(form);
       inner.quit();
     });
     inner.exec();
+    EXPECT_TRUE(form);
     outer.quit();
   });
   outer.exec();
