@@ -4,7 +4,10 @@
 
 #include "frame/frmPathSelect.h"
 #include "frame/frmPreferences.h"
+#include "frame/frmStart.h"
+#include "images/frmImageViewer.h"
 #include "shared/Limits.h"
+#include "shared/ScriptedPrograms.h"
 #include "shared/StencilFormsTest.h"
 #include "stencils/LoadStencilTrees.h"
 #include "toolkit/FontNames.h"
@@ -157,6 +160,78 @@ TEST_F(PreferencesFormTest, TheFolderOfSelfBuiltStencilsIsReadAtOnce) {
     form->cmdOk->click();
     EXPECT_EQ(main->trwSelfBuildedStencils->NodeCount(), nodes) << qPrintable(path);
   }
+}
+
+TEST_F(PreferencesFormTest, PreviewAndJavaStartWhatIsChosen) {
+  ScriptedPrograms &programs = ScriptedPrograms::Install();
+  programs.toFile = Programs::Application{u"browser"_s};
+  const QString file = Open(u"A.java"_s, "class A {}")->Caption();
+  const auto started = [&] {
+    QStringList words = std::exchange(programs.opened, {});
+    for (const auto &command : std::exchange(programs.started, {})) {
+      words << command.program << command.arguments;
+    }
+    return words.join(u'|');
+  };
+  form->optOtherPreViewer->click();
+  form->txtApplictationPath->setText(u" viewer -x "_s);
+  form->txtJavaPath_0->setText(u"/my/javac"_s);
+  form->cmdOk->click();
+  main->mnuFileShowPreview->trigger();
+  EXPECT_EQ(started(), u"viewer|-x|"_s + file);
+  dialogs.answers = {Dialogs::Answer::Ok};
+  main->mnuJavaCompile->trigger();
+  EXPECT_TRUE(started().startsWith(u"/my/javac|"));
+
+  OpenDialog();
+  form->optOtherFileBinding_1->click();
+  form->txtFileExtension->setText(u"JAVA"_s);
+  form->txtFileBinding->setText(u"bound"_s);
+  form->cmdOk->click();
+  main->mnuFileShowPreview->trigger();
+  EXPECT_EQ(started(), u"bound|"_s + file);
+
+  OpenDialog();
+  Click("optOtherFileBinding_0 optStandartWebBrowser optTemporaryDataPath_1");
+  form->txtOtherTemporaryPath->setText(folder.path());
+  form->txtJavaPath_1->setText(u"/my/appletviewer"_s);
+  form->cmdOk->click();
+  mEditors::OpenWindow()->SetCaption(u"<unsaved>"_s);
+  main->mnuFileShowPreview->trigger();
+  EXPECT_EQ(started(), u"browser "_s + Path(u"0001.html"_s));
+  Open(u"a.html"_s, "");
+  main->mnuJavaAppletViewer->trigger();
+  EXPECT_EQ(started(), u"/my/appletviewer|"_s + Path(u"a.html"_s));
+  Programs::Set(nullptr);
+}
+
+TEST_F(PreferencesFormTest, TheNextScanHasTheChosenThumbnails) {
+  Click("optOtherImageSettings optImageHeight_1 optImageWidth_2 optShapeColor_2 cmdOk");
+  Write(u"note.txt"_s, "");
+  main->mnuViewImageBrowsingWindow->trigger();
+  auto *browser = Default<frmImageViewer>();
+  browser->drvImageDrive->addItem(folder.path());
+  browser->drvImageDrive->setCurrentIndex(browser->drvImageDrive->count() - 1);
+  Q_EMIT browser->drvImageDrive->activated(browser->drvImageDrive->currentIndex());
+  browser->cmdSetImagePath->click();
+  ThumbnailCanvas &canvas = *browser->picImageBrowserInnenFrame;
+  const auto drawn = [&canvas] { return canvas.grab(canvas.CellRect(1)).toImage(); };
+  canvas.clearFocus();
+  EXPECT_EQ(canvas.Grid().cell, QSize(150, 75));
+  QImage empty = drawn();
+  empty.fill(empty.pixel(75, 37));
+  EXPECT_EQ(drawn(), empty) << "neither frame nor name";
+  canvas.Select(0);
+  EXPECT_EQ(drawn().pixelColor(0, 37), QColor(0, 0, 255));
+  OpenDialog();
+  Click("chkShowFilenames cmdOk");
+  browser->cmdSetImagePath->click();
+  EXPECT_NE(drawn(), empty);
+}
+
+TEST_F(PreferencesFormTest, TheSplashFollows) {
+  Click("chkShowStartWindow cmdOk");
+  EXPECT_TRUE(Default<frmStart>()->IsUnloaded());
 }
 
 TEST_F(PreferencesFormTest, ARecordOfAnyBytesOpensAndIsWrittenSound) {

@@ -144,6 +144,41 @@ TEST_F(CompileTest, PollingGivesUpAtThe42ndTickAndCountsAnewInEachRun) {
   }
 }
 
+TEST_F(CompileTest, AnUnchangedFileIsNotReadAgain) {
+  frmDebuggingInfo *form = Run();
+  const auto put = [this](const QByteArray &bytes, int second) {
+    PutFile(output, bytes);
+    QFile file(output);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.setFileTime(QDateTime::fromSecsSinceEpoch(second), QFileDevice::FileModificationTime);
+  };
+  put(QByteArray(oneError.size(), 'x'), 1000);
+  for (const int second : {1000, 1001}) {
+    form->ReadCompilerOutput();
+    put(oneError, second);
+    form->ReadCompilerOutput();
+    EXPECT_EQ(form->timTimer->isActive(), second == 1000) << "same size, same time";
+  }
+}
+
+TEST_F(CompileTest, WhateverTheCompilerDoesTheWindowGoesOnPolling) {
+  Programs::Set(nullptr);
+  const qint64 flood = 500'000'000;
+  for (const char *script : {"exit 1", "exec sleep 2", "exec head -c 500000000 /dev/zero >$2"}) {
+    const QString compiler = Write(u"compiler"_s, QByteArray("#!/bin/sh\n") + script + '\n');
+    QFile::setPermissions(compiler, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    SetPaths(compiler, {});
+    frmDebuggingInfo *form = Run();
+    if (qstrlen(script) > 20) {
+      EXPECT_TRUE(QTest::qWaitFor([&] { return QFileInfo(output).size() == flood; }, 60'000));
+    }
+    form->ReadCompilerOutput();
+    EXPECT_TRUE(form->timTimer->isActive()) << script;
+    EXPECT_EQ(Grid(*form), u"Compiler Message||||"_s) << script;
+  }
+  QFile::remove(output);
+}
+
 TEST_F(CompileTest, AFloodIsCutAndALateRunOrCloseStopsTheFilling) {
   frmDebuggingInfo *form = Run();
   PutFile(output, oneError);
@@ -196,6 +231,13 @@ TEST_F(CompileTest, ARealCompilersErrorsBecomeRows) {
     form.ReadCompilerOutput();
     EXPECT_EQ(Grid(form), grid);
   }
+  QByteArray many("class M {\n");
+  for (int i = 0; i < 120; ++i) many += " int a" + QByteArray::number(i) + " = b;\n";
+  Open(u"M.java"_s, many + "}\n");
+  frmDebuggingInfo &form = *Run();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return FileBytes(output).endsWith(" errors\n"); }, 120'000));
+  form.ReadCompilerOutput();
+  EXPECT_EQ(form.flgDebuggingInfo->rowCount(), 120) << "beyond the compiler's own limit";
 }
 
 }  // namespace

@@ -30,8 +30,15 @@ TEST(CompilerOutput, RealOutputsGiveTheirRows) {
   const QString two =
       u"3|error: cannot find symbol|return missing;\n"
       "5|error: incompatible types: String cannot be converted to int|int g() { return \"%1\"; }"_s;
-  EXPECT_EQ(RowsOf(u"colons"_s).join(u'\n'), two.arg(u"ü → Ж"_s));
+  EXPECT_EQ(RowsOf(u"two"_s).join(u'\n'), two.arg(u"ü → Ж"_s));
+  EXPECT_EQ(RowsOf(u"colons"_s), RowsOf(u"two"_s));
   EXPECT_EQ(RowsOf(u"ansi"_s).join(u'\n'), two.arg(u"ü ? ?"_s));
+  EXPECT_EQ(RowsOf(u"bounds"_s).join(u'\n'),
+            u"3|error: incompatible types: inference variable T has incompatible bounds|"
+            "List<String> l = Arrays.asList(1);"_s);
+  const QStringList hundred = RowsOf(u"hundred"_s);
+  EXPECT_EQ(hundred.size(), 100);
+  EXPECT_EQ(hundred.last(), u"101|error: cannot find symbol|int f100() { return m100; }"_s);
   // Each "^" of message and source ends a piece as well.
   EXPECT_EQ(RowsOf(u"caret"_s).join(u'\n'),
             u"2|error: bad operand types for binary operator '^'|\n0||\n0||\n"

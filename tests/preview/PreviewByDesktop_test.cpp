@@ -1,7 +1,12 @@
-// The preview with real programs: bound by desktop entries, and named in the preferences.
+// The preview with real programs: bound by desktop entries, named in the preferences, and a
+// browser.
+
+#include <unistd.h>
 
 #include <QDir>
+#include <QImage>
 #include <QProcess>
+#include <QStandardPaths>
 
 #include "shared/FormsTest.h"
 #include "toolkit/Programs.h"
@@ -22,6 +27,12 @@ class PreviewByDesktopTest : public FormsTest {
                                   "mv \"${0%/*}/.called\" \"${0%/*}/called\"\n");
     QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
     return program;
+  }
+
+  static void SetApplication(const QString &command) {
+    mPublic::recPreferences.OtherPreViewer = true;
+    mPublic::recPreferences.ApplicationPath.Set(command);
+    ASSERT_TRUE(mPublic::WritePreferences());
   }
 
   QString Called() {
@@ -86,14 +97,29 @@ TEST_F(PreviewByDesktopTest, TheBoundApplicationIsCalledWithTheFile) {
 }
 
 TEST_F(PreviewByDesktopTest, ThePreviewApplicationIsCalledWithTheFile) {
-  mPublic::recPreferences.OtherPreViewer = true;
-  mPublic::recPreferences.ApplicationPath.Set(Recorder(u"my viewer"_s) + u" -x $HOME;"_s);
-  ASSERT_TRUE(mPublic::WritePreferences());
+  SetApplication(Recorder(u"my viewer"_s) + u" -x $HOME;"_s);
   for (const QString &name : names) {
     FileCommands::OpenDroppedFile(Write(name, ""));
     main->mnuFileShowPreview->trigger();
     EXPECT_EQ(Called(), u"my viewer|-x|$HOME;|%1|"_s.arg(Path(name)));
   }
+}
+
+TEST_F(PreviewByDesktopTest, ABrowserShowsWhatTheEditorHolds) {
+  const QString browser = QStandardPaths::findExecutable(u"chromium"_s);
+  if (browser.isEmpty()) GTEST_SKIP() << "chromium is not installed";
+  const QString picture = Path(u"page.png"_s);
+  SetApplication(browser + u" --headless --disable-gpu --window-size=80,60 "_s +
+                 (geteuid() == 0 ? u"--no-sandbox "_s : QString()) + u"--user-data-dir="_s +
+                 Path(u"u"_s) + u" --screenshot="_s + picture);
+  frmHTMLChild *editor = Open(u"my page.html"_s, "<html><body></body></html>");
+  editor->txthtml->SetSelStart(11);
+  Type(editor, u" bgcolor=#12AB34"_s);
+  dialogs.answers = {Dialogs::Answer::Yes};
+  main->mnuFileShowPreview->trigger();
+  QImage page;
+  EXPECT_TRUE(QTest::qWaitFor([&] { return page.load(picture); }, 60'000));
+  EXPECT_EQ(page.pixelColor(page.rect().center()).name(), u"#12ab34"_s);
 }
 
 }  // namespace
