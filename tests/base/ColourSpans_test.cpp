@@ -4,56 +4,31 @@
 
 #include <random>
 
-namespace {
-
-// A colour for every character, edited the plain way.
-class PlainColours {
- public:
-  void Set(int start, int end, quint32 colour) {
-    std::fill(colours.begin() + start, colours.begin() + end, colour);
-  }
-  void Edited(int position, int removed, int added) {
-    colours.erase(colours.begin() + position, colours.begin() + position + removed);
-    colours.insert(colours.begin() + position, added, ColourSpans::Black);
-  }
-  std::vector<quint32> colours;
-};
-
-std::vector<quint32> Spread(const ColourSpans &spans, int start, int end) {
-  std::vector<quint32> colours(end - start);
-  for (const auto &span : spans.Within(start, end)) {
-    EXPECT_TRUE(start <= span.start && span.start < span.end && span.end <= end);
-    std::fill(colours.begin() + (span.start - start), colours.begin() + (span.end - start),
-              span.colour);
-  }
-  return colours;
-}
-
 TEST(ColourSpans, FollowAnyEditsAsIfEachCharacterHadItsColour) {
   std::mt19937 random(7);
   const auto upTo = [&random](int most) { return int(random() % (most + 1)); };
   ColourSpans spans;
-  PlainColours plain;
-  plain.Edited(0, 0, 60);
+  std::vector<quint32> plain(60);
   for (int step = 0; step < 4000; ++step) {
-    const int length = int(plain.colours.size());
-    const int start = upTo(length);
-    const int end = start + upTo(std::min(length - start, 12));
+    const int start = upTo(int(plain.size()));
+    const int length = upTo(std::min(int(plain.size()) - start, 12));
+    const auto begin = plain.begin() + start;
     if (upTo(2) == 0) {
       const int added = upTo(12);
-      spans.Edited(start, end - start, added);
-      plain.Edited(start, end - start, added);
+      spans.Edited(start, length, added);
+      plain.insert(plain.erase(begin, begin + length), added, ColourSpans::Black);
     } else {
       const quint32 colour = upTo(3);
-      spans.Set(start, end, colour);
-      plain.Set(start, end, colour);
+      spans.Set(start, start + length, colour);
+      std::fill_n(begin, length, colour);
     }
-    const int now = int(plain.colours.size());
-    ASSERT_EQ(Spread(spans, 0, now), plain.colours) << "step " << step;
-    const int from = upTo(now), to = from + upTo(now - from);
-    ASSERT_EQ(Spread(spans, from, to),
-              std::vector<quint32>(plain.colours.begin() + from, plain.colours.begin() + to));
+    const int from = upTo(int(plain.size()));
+    const int to = from + upTo(int(plain.size()) - from);
+    std::vector<quint32> spread(plain.size());
+    for (const auto &span : spans.Within(from, to)) {
+      ASSERT_TRUE(from <= span.start && span.end <= to);
+      std::fill(spread.begin() + span.start, spread.begin() + span.end, span.colour);
+    }
+    ASSERT_TRUE(std::equal(plain.begin() + from, plain.begin() + to, spread.begin() + from));
   }
 }
-
-}  // namespace

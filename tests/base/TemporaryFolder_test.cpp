@@ -6,33 +6,20 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include "shared/Files.h"
-
-using State = TemporaryFolder::State;
-
-TEST(TemporaryFolder, IsMadeForThisUserAlone) {
+TEST(TemporaryFolder, IsMadeForThisUserAloneAndOneOfOthersIsNotUsed) {
+  using State = TemporaryFolder::State;
   const QTemporaryDir folder;
-  const QString path = folder.filePath(QStringLiteral("not yet/there"));
-  EXPECT_EQ(TemporaryFolder::Look(path), State::Missing);
-  EXPECT_TRUE(TemporaryFolder::Make(path));
-  EXPECT_EQ(QFileInfo(path).permissions() & QFile::Permissions(0x0077), QFile::Permissions());
-  EXPECT_EQ(TemporaryFolder::Look(path), State::Usable);
-  EXPECT_TRUE(TemporaryFolder::Make(path)) << "it is ours";
-}
-
-TEST(TemporaryFolder, WhatOthersMayHavePutThereIsNotUsed) {
-  const QTemporaryDir folder;
-  const QString link = folder.filePath(QStringLiteral("link"));
-  const QString dangling = folder.filePath(QStringLiteral("dangling"));
-  const QString file = folder.filePath(QStringLiteral("file"));
-  PutFile(file, "");
-  ASSERT_TRUE(QFile::link(folder.path(), link));
-  ASSERT_TRUE(QFile::link(folder.filePath(QStringLiteral("gone")), dangling));
-  for (const QString &path : {link, link + u'/', dangling, file}) {
-    EXPECT_EQ(TemporaryFolder::Look(path), State::Foreign) << qPrintable(path);
-    EXPECT_FALSE(TemporaryFolder::Make(path)) << qPrintable(path);
+  const QString made = folder.filePath("not yet/there"), link = folder.filePath("link");
+  EXPECT_EQ(TemporaryFolder::Look(made), State::Missing);
+  EXPECT_TRUE(TemporaryFolder::Make(made) && TemporaryFolder::Make(made)) << "then it is ours";
+  EXPECT_EQ(QFileInfo(made).permissions() & QFile::Permissions(0x0077), QFile::Permissions());
+  EXPECT_EQ(TemporaryFolder::Look(made), State::Usable);
+  for (const QString &target : {made, folder.filePath("gone")}) {
+    ASSERT_TRUE(QFile::link(target, link));
+    EXPECT_EQ(TemporaryFolder::Look(link), State::Foreign);
+    EXPECT_FALSE(TemporaryFolder::Make(link + '/') || !QFile::remove(link));
   }
   if (geteuid() != 0) return;  // only the superuser can give a folder away
-  ASSERT_EQ(chown(QFile::encodeName(folder.path()).constData(), 1, 1), 0);
-  EXPECT_EQ(TemporaryFolder::Look(folder.path()), State::Foreign);
+  ASSERT_EQ(chown(qPrintable(made), 1, 1), 0);
+  EXPECT_EQ(TemporaryFolder::Look(made), State::Foreign);
 }

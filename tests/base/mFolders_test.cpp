@@ -8,12 +8,9 @@
 #include "base/DataFiles.h"
 #include "shared/Files.h"
 
-using Qt::StringLiterals::operator""_s;
-
 /// An installation in a temporary folder, with no data beside its program.
-class mFoldersTest : public testing::Test {
- protected:
-  QString In(const char *path) const { return folder.filePath(QLatin1String(path)); }
+struct mFoldersTest : testing::Test {
+  QString In(const char *path) const { return folder.filePath(path); }
 
   const QTemporaryDir folder;
   mFolders::ProgramFolderSources sources{
@@ -25,32 +22,34 @@ TEST_F(mFoldersTest, TheProgramFolderIsTheFirstThatIsGiven) {
   EXPECT_EQ(mFolders::ChooseProgramFolder(sources), sources.userDataFolder);
   PutFile(In("bin/File0009.dat"), "");
   EXPECT_EQ(mFolders::ChooseProgramFolder(sources), sources.executableFolder);
-  sources.environmentFolder = u"some/../where/"_s;
-  EXPECT_EQ(mFolders::ChooseProgramFolder(sources), QDir::currentPath() + u"/where"_s);
+  sources.environmentFolder = "some/../where/";
+  EXPECT_EQ(mFolders::ChooseProgramFolder(sources), QDir::currentPath() + "/where");
 }
 
 TEST_F(mFoldersTest, TheUserFolderIsFilledOnceAndWhole) {
   ASSERT_TRUE(QDir().mkpath(In("share/help")));
-  PutFile(In("share/help/index.htm"), "help");
-  PutFile(In("share/sc.dat"), "characters");
   EXPECT_FALSE(mFolders::FillUserDataFolder(sources)) << "no preferences to copy";
   EXPECT_TRUE(QDir(In("home")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
 
   PutFile(In("share/preferences.dat"), "standard");
   ASSERT_TRUE(QFile::setPermissions(In("share/preferences.dat"), QFile::ReadOwner));
   EXPECT_TRUE(mFolders::FillUserDataFolder(sources));
-  const QFileInfo preferences(In("home/user/preferences.dat"));
-  EXPECT_TRUE(!preferences.isSymLink() && preferences.permission(QFile::WriteOwner));
-  EXPECT_EQ(FileBytes(In("home/user/preferences.dat")), "standard");
-  EXPECT_EQ(QFile::symLinkTarget(In("home/user/sc.dat")), In("share/sc.dat"));
-  EXPECT_EQ(FileBytes(In("home/user/help/index.htm")), "help");
-
-  PutFile(In("home/user/preferences.dat"), "mine");
+  const QString preferences = In("home/user/preferences.dat");
+  EXPECT_EQ(FileBytes(preferences), "standard");
+  EXPECT_TRUE(QFileInfo(preferences).permission(QFile::WriteOwner));
+  EXPECT_EQ(QFile::symLinkTarget(In("home/user/help")), In("share/help"));
+  PutFile(preferences, "mine");
   EXPECT_TRUE(mFolders::FillUserDataFolder(sources));
-  EXPECT_EQ(FileBytes(In("home/user/preferences.dat")), "mine");
+  EXPECT_EQ(FileBytes(preferences), "mine");
 }
 
-TEST(mFolders, TheProcessTakesItsFolderFromTheEnvironment) {
-  const QString given = qEnvironmentVariable("TAGWRIGHT_FOLDER");  // ends in a separator
-  EXPECT_EQ(mFolders::InProgramFolder(u"sc.dat"_s), given + u"sc.dat"_s);
+TEST_F(mFoldersTest, TheFirstNineDataFilesAreTestedByLength) {
+  for (int row = 0; row < TestedDataFiles; ++row) {
+    const QString name = DataFiles[row].name;
+    EXPECT_EQ(FirstDefectDataFile(folder.path()), name) << "missing";
+    PutFile(folder.filePath(name), QByteArray(DataFiles[row].bytes + 1, 'x'));
+    EXPECT_EQ(FirstDefectDataFile(folder.path()), name) << "too long";
+    PutFile(folder.filePath(name), QByteArray(DataFiles[row].bytes, 'x'));
+  }
+  EXPECT_EQ(FirstDefectDataFile(folder.path()), std::nullopt) << "rows 9 and 10 may be missing";
 }
