@@ -2,6 +2,7 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <csignal>
 
 #include "frame/Preferences.h"
 #include "shared/Files.h"
@@ -89,4 +90,14 @@ TEST_F(KilledTest, ASignalWritesTheJournalAndEndsTheProgram) {
     ForgetAllButTheLast();
     ExpectBack(role);
   }
+}
+
+TEST_F(KilledTest, ASecondSignalEndsAProgramThatHangs) {
+  Start("hang");
+  ASSERT_TRUE(Hear(99, "hanging"));
+  kill(pid_t(program.processId()), SIGTERM);
+  EXPECT_FALSE(program.waitForFinished(200));
+  kill(pid_t(program.processId()), SIGHUP);
+  EXPECT_TRUE(program.waitForFinished(60'000));
+  EXPECT_EQ(program.exitStatus(), QProcess::CrashExit);
 }
