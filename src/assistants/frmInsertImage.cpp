@@ -6,10 +6,12 @@
 #include "base/mText.h"
 #include "documents/Insertion.h"
 #include "frame/mdiMain.h"
+#include "toolkit/FocusMark.h"
 #include "toolkit/LoadPicture.h"
 
 frmInsertImage::frmInsertImage() : DialogForm(Default<mdiMain>()) {
   setupUi(this);
+  new FocusMark(scrSelectedImage);
   clgOpenImage.Filter = PictureFilter();
   SetSettingsEnabled(false);
   connect(cmdSelectImage, &QPushButton::clicked, this, &frmInsertImage::cmdSelectImage_Click);

@@ -1,6 +1,8 @@
 #include "assistants/frmSpecialCharacters.h"
 
+#include <QFontMetrics>
 #include <QPainter>
+#include <algorithm>
 
 #include "assistants/SpecialCharacters.h"
 #include "base/mFolders.h"
@@ -10,11 +12,18 @@
 
 namespace {
 
-constexpr QSize cellSize(28, 24);
 constexpr int characterPoints = 12;
+constexpr QSize smallestCell(28, 24);
+constexpr int roundCharacter = 4;  // pixels above and below it together
 
 QString FilePath() {
   return mFolders::InProgramFolder(QStringLiteral("sc.dat"));
+}
+
+// Cells of the same shape for letters of any size.
+QSize CellSize(const QFont &font) {
+  const int height = std::max(QFontMetrics(font).height() + roundCharacter, smallestCell.height());
+  return {smallestCell.width() * height / smallestCell.height(), height};
 }
 
 QStringList CellPictures() {
@@ -32,7 +41,7 @@ frmSpecialCharacters::frmSpecialCharacters() : DialogForm(Default<mdiMain>()) {
   font.setPointSize(characterPoints);
   picSpecialCharacters->setFont(font);
   picSpecialCharacters->SetCells(
-      SpecialCharacters::PerRow, cellSize, pictures,
+      SpecialCharacters::PerRow, CellSize(font), pictures,
       [this, pictures](QPainter &painter, const QRect &cell, int number) {
         const QPalette &colours = picSpecialCharacters->palette();
         painter.fillRect(cell, colours.base());

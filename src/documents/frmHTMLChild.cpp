@@ -71,6 +71,7 @@ frmHTMLChild::frmHTMLChild() : client_(new QWidget) {
   setAttribute(Qt::WA_DeleteOnClose, false);
   txthtml = new RichTextBox(client_);
   SetUpBox(*txthtml, "txthtml", textMargin);
+  txthtml->setAccessibleName(QStringLiteral("Document"));
   txthtml->SetForeignReplacement([this](char32_t codePoint) {
     return DocumentName::IsJava(caption_) ? ForeignText::JavaEscape(codePoint)
                                           : ForeignText::NumericReference(codePoint);

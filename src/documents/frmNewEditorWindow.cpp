@@ -10,6 +10,7 @@
 #include "documents/OpenFilesTree.h"
 #include "documents/mEditors.h"
 #include "frame/mdiMain.h"
+#include "toolkit/FocusMark.h"
 #include "toolkit/WindowOnTop.h"
 #include "toolkit/twips.h"
 
@@ -26,6 +27,7 @@ frmNewEditorWindow::frmNewEditorWindow() : DialogForm(Default<mdiMain>()) {
     imgNewEditorWindowType_[i]->setPixmap(
         NewDocumentPicture(NewDocumentType(i), devicePixelRatioF()));
     imgNewEditorWindowType_[i]->installEventFilter(this);
+    new FocusMark(imgNewEditorWindowType_[i]);
   }
   connect(cmdOk, &QPushButton::clicked, this, &frmNewEditorWindow::cmdOk_Click);
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(*this); });

@@ -167,7 +167,9 @@ void mdiMain::SetUpFocusRound() {
 
 void mdiMain::Load() {
   const QRect available = screen()->availableGeometry();
-  resize(firstSize.boundedTo(available.size() - windowFrame));
+  const QSize room = available.size() - windowFrame;
+  setMinimumSize(minimumSize().boundedTo(room));  // or a small screen would cut the window
+  resize(firstSize.boundedTo(room));
   splClient->setStretchFactor(0, 1);
   splClient->setSizes({width() - panelWidth, panelWidth});
   move(available.center() - rect().center());

@@ -19,8 +19,9 @@ constexpr int stencilsTabHeight = 18;
 constexpr int stencilsTabOverlap = 2;
 constexpr int titleMargin = 3;  // above and below a title, for the button in its row
 constexpr int titleIndent = 3;
-constexpr int largeButtonLeft = 49;
-constexpr int largeButtonRight = 4;
+constexpr int largeButtonWidth = 44;
+constexpr int largeButtonRight = 5;
+constexpr int roundLarge = 12;  // on both sides of the word together
 
 void DrawTriangle(QPainter &painter, const QPolygonF &corners) {
   painter.setPen(Qt::NoPen);
@@ -115,8 +116,11 @@ void mdiMain::PlaceDescription() {
 void mdiMain::PlaceLargeButton() {
   const QRect title = lblWindowTitelTagDescription->geometry();
   cmdTagDescriptionLarge->setFont(lblWindowTitelTagDescription->font());
-  cmdTagDescriptionLarge->setGeometry(picRightWindows->width() - largeButtonLeft, title.top() + 1,
-                                      largeButtonLeft - largeButtonRight - 1, title.height() - 2);
+  const QString &word = cmdTagDescriptionLarge->text();
+  const int width = std::max(
+      largeButtonWidth, cmdTagDescriptionLarge->fontMetrics().horizontalAdvance(word) + roundLarge);
+  cmdTagDescriptionLarge->setGeometry(picRightWindows->width() - largeButtonRight - width,
+                                      title.top() + 1, width, title.height() - 2);
 }
 
 // ---- width

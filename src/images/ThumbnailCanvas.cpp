@@ -24,7 +24,7 @@ ThumbnailCanvas::ThumbnailCanvas(QWidget *parent)
     : QWidget(parent), thumbnails_(keptBytes), shpThumbnailSelection_(new QFrame(this)) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  setFocusPolicy(Qt::StrongFocus);
+  setFocusPolicy(Qt::NoFocus);  // as long as there is nothing to go to
   InstallAccessible();
   shpThumbnailSelection_->setObjectName(QStringLiteral("shpThumbnailSelection"));
   shpThumbnailSelection_->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -40,6 +40,7 @@ void ThumbnailCanvas::Clear(Look look) {
   thumbnails_.clear();
   missing_.clear();
   current_ = 0;
+  setFocusPolicy(Qt::NoFocus);
   shpThumbnailSelection_->hide();
   setToolTip({});
   update();
@@ -49,6 +50,7 @@ void ThumbnailCanvas::Add(const QString &path) {
   cells_.push_back({path, ImageFolder::IsImageName(path)});
   const int index = Count() - 1;
   if (cells_.back().image) Decode(index);
+  setFocusPolicy(Qt::StrongFocus);
   update(look_.grid.Cell(index));
 }
 

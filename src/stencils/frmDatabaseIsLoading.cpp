@@ -14,6 +14,7 @@ frmDatabaseIsLoading::frmDatabaseIsLoading() : DialogForm(Default<mdiMain>()) {
 }
 
 void frmDatabaseIsLoading::Load() {
+  resize(QSize(240, 90).expandedTo(minimumSizeHint()));
   SetWindowOnTop(*this, true);
 }
 

@@ -10,6 +10,7 @@
 #include "stencils/StencilFiles.h"
 #include "toolkit/Dialogs.h"
 #include "toolkit/DoEvents.h"
+#include "toolkit/FocusMark.h"
 #include "toolkit/UntrappedError.h"
 
 namespace {
@@ -32,6 +33,7 @@ bool AppendRow(const QString &path, const QByteArray &row) {
 
 frmExport::frmExport() : DialogForm(Default<mdiMain>()) {
   setupUi(this);
+  new FocusMark(lblPath);
   chkWhichDataColumns_ = {chkWhichDataColumns_0, chkWhichDataColumns_1, chkWhichDataColumns_2,
                           chkWhichDataColumns_3};
   cdgExportPath.MayBeNew = true;

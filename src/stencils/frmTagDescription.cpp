@@ -2,10 +2,14 @@
 
 #include "frame/PanelFont.h"
 #include "frame/mdiMain.h"
+#include "toolkit/FocusMark.h"
 #include "toolkit/WindowOnTop.h"
 
 frmTagDescription::frmTagDescription() : DialogForm(Default<mdiMain>()) {
   setupUi(this);
+  for (QWidget *box : std::initializer_list<QWidget *>{rtfTagSource, scrTagDescription}) {
+    new FocusMark(box);
+  }
   connect(cmdClose, &QPushButton::clicked, this, [this] { Unload(*this); });
 }
 

@@ -2,15 +2,13 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
 #include <QLabel>
-#include <QMdiArea>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTabBar>
-#include <QToolBar>
 #include <QToolButton>
 
 #include "shared/AllForms.h"
@@ -43,6 +41,7 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
     font.setPointSizeF(font.pointSizeF() * GetParam().letters);
     QApplication::setFont(font);
     PutStencils(stencils, Words("aaaa aabb"));
+    PutQuickBar(bar, Words("aaaa"));
     main = Default<mdiMain>();
     main->timloadStencils->stop();
     main->resize(1280, 760);
@@ -67,6 +66,38 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
                            (page > 0 ? QString::number(page) : QString());
       LookAt(form, name);
       Save(form, name);
+      LookAtFocus(form, name);
+    }
+    for (DrawnTabStrip *strip : form->findChildren<DrawnTabStrip *>()) {
+      for (int tab = strip->CellCount(); tab > 0 && strip->isVisible(); --tab) {
+        strip->PressCell(tab);
+        DoEvents();
+        LookAt(form, form->objectName() + strip->objectName() + QString::number(tab));
+      }
+    }
+  }
+
+  // Wherever Tab leads, the form looks another way.
+  void LookAtFocus(QWidget *form, const QString &name) {
+    form->activateWindow();
+    form->setAttribute(Qt::WA_KeyboardFocusChange);  // as the Tab key does
+    for (QWidget *widget : form->findChildren<QWidget *>()) {
+      const auto *button = qobject_cast<QPushButton *>(widget);
+      if (button && button->isDefault()) continue;  // looks as if it had it anyway
+      if (widget->inherits("CellGrid") || widget == main->picFontColor) continue;  // it opens one
+      if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isEnabled() || widget->focusProxy() ||
+          !widget->isVisible() || widget->isWindow() || IsPartOfAnother(widget)) {
+        continue;
+      }
+      const auto seen = [form, widget] {
+        DoEvents();
+        return form->grab(QRect(widget->mapTo(form, QPoint()), widget->size())).toImage();
+      };
+      if (QWidget *before = QApplication::focusWidget()) before->clearFocus();
+      const QImage without = seen();
+      widget->setFocus(Qt::TabFocusReason);
+      EXPECT_TRUE(seen() != without)
+          << qPrintable(name + u' ' + widget->objectName()) << " no focus";
     }
   }
 
@@ -91,7 +122,10 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
       const QSize missing = Needed(widget) - widget->size();
       EXPECT_LE(missing.width(), 0) << qPrintable(where) << " is cut";
       EXPECT_LE(missing.height(), 0) << qPrintable(where) << " is cut";
-      for (QObject *other : widget->parent()->children()) LookForOverlap(widget, other, where);
+      const QWidget *room = widget->parentWidget();
+      EXPECT_TRUE(room->rect().contains(widget->geometry()) || IsScrolled(widget))
+          << qPrintable(where) << " sticks out";
+      for (QObject *other : room->children()) LookForOverlap(widget, other, where);
     }
   }
 
@@ -100,15 +134,17 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
     if (widget->objectName().startsWith(QStringLiteral("qt_"))) return true;
     for (const QWidget *up = widget->parentWidget(); up && !widget->isWindow();
          widget = up, up = up->parentWidget()) {
-      if (qobject_cast<const QComboBox *>(up) || qobject_cast<const QTabBar *>(up) ||
-          qobject_cast<const QMdiSubWindow *>(up) || qobject_cast<const QToolBar *>(up)) {
-        return true;
-      }
-      if (qobject_cast<const QAbstractScrollArea *>(up) && !qobject_cast<const QMdiArea *>(up)) {
-        return true;
+      for (const char *whole : {"QAbstractItemView", "QComboBox", "QPlainTextEdit", "QTabBar"}) {
+        if (up->inherits(whole)) return true;
       }
     }
     return false;
+  }
+
+  // What is seen in part: what a window scrolls, and pieces of the editor's own edges.
+  static bool IsScrolled(const QWidget *widget) {
+    if (qobject_cast<const QLabel *>(widget) || widget->inherits("RichTextBox")) return true;
+    return qobject_cast<const QAbstractScrollArea *>(widget->parentWidget()->parentWidget());
   }
 
   // The room that a text of the program's own asks for; nothing for what the user fills.
@@ -120,6 +156,9 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
     }
     const auto *tool = qobject_cast<const QToolButton *>(widget);
     if (tool && tool->toolButtonStyle() == Qt::ToolButtonIconOnly) return {};  // shows no text
+    if (qobject_cast<const QCheckBox *>(widget) || qobject_cast<const QRadioButton *>(widget)) {
+      return widget->sizeHint();
+    }
     if (const auto *button = qobject_cast<const QAbstractButton *>(widget)) {
       return button->fontMetrics().size(Qt::TextShowMnemonic, button->text());
     }
@@ -134,6 +173,7 @@ class AllFormsTest : public StencilFormsTest, public testing::WithParamInterface
     return widget->objectName().startsWith(QStringLiteral("shp")) ||
            widget->objectName() == QStringLiteral("imgfrmInfo") ||
            widget->objectName() == QStringLiteral("cmdTagDescriptionLarge") ||
+           widget->objectName() == QStringLiteral("rtfLineNumber") ||
            qobject_cast<const DrawnTabStrip *>(widget);
   }
 

@@ -20,6 +20,7 @@
 #include "images/frmImageSinglePreview.h"
 #include "images/frmImageViewer.h"
 #include "java/frmDebuggingInfo.h"
+#include "stencils/frmDatabaseIsLoading.h"
 #include "stencils/frmExport.h"
 #include "stencils/frmQuickBar.h"
 #include "stencils/frmQuickbarEditor.h"
@@ -61,6 +62,7 @@ const QList<QWidget *(*)()> &AllForms() {
       &Shown<frmColors>,
       &Shown<frmFontcolors>,
       &Shown<frmSpecialCharacters>,
+      &Shown<frmDatabaseIsLoading>,
       &Shown<frmStencils>,
       &Shown<frmStencilsSearch>,
       &Shown<frmSelfStencilBuilder>,
