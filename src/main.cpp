@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QTimer>
+#include <csignal>
 #include <cstdlib>
 
 #include "base/mFolders.h"
@@ -8,6 +9,7 @@
 #include "frame/CommandLine.h"
 #include "frame/ProgramIcon.h"
 #include "frame/frmStart.h"
+#include "frame/mPublic.h"
 #include "frame/mdiMain.h"
 #include "toolkit/EndProgram.h"
 #include "toolkit/EndRequests.h"
@@ -19,6 +21,7 @@ constexpr int patience = 2000;  // milliseconds
 
 void EndWithoutAQuestion(Journal &journal) {
   journal.End();
+  mPublic::bAppClosing = true;
   EndProgram();
   QTimer::singleShot(patience, [] { std::_Exit(EXIT_SUCCESS); });
 }
@@ -30,6 +33,8 @@ int main(int argc, char **argv) {
   SetCommandLine(CommandLineText(argc, argv));
   int programOnly = 1;
   QApplication application(programOnly, argv);
+  // A file beyond the size that the process may write is a write that fails, not its end.
+  std::signal(SIGXFSZ, SIG_IGN);
   application.setWindowIcon(ProgramIcon());
   application.setQuitOnLastWindowClosed(false);
   Journal journal(JournalFolder(mFolders::ProgramFolder()), &application);

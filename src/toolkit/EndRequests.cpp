@@ -6,9 +6,11 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
+#include <ctime>
 
 namespace {
 
@@ -16,12 +18,27 @@ constexpr int requests[] = {SIGTERM, SIGHUP, SIGINT};
 
 int bell = -1;  // counts the signals that have arrived; a notifier waits for it
 
+std::atomic<int64_t> firstAt = 0;           // when the first signal came, in nanoseconds
+constexpr int64_t together = 1000'000'000;  // signals within this are one request
+
+int64_t Now() {
+  timespec time{};
+  clock_gettime(CLOCK_MONOTONIC, &time);
+  return int64_t(time.tv_sec) * 1000'000'000 + time.tv_nsec;
+}
+
 // Calls only what may be called in the middle of anything.
-void Ring(int) {
+void Ring(int request) {
   const int error = errno;
-  for (const int request : requests) std::signal(request, SIG_DFL);
-  const uint64_t once = 1;
-  [[maybe_unused]] const auto written = write(bell, &once, sizeof once);
+  const int64_t now = Now();
+  int64_t first = 0;
+  std::signal(request, SIG_DFL);
+  if (firstAt.compare_exchange_strong(first, now)) {
+    const uint64_t once = 1;
+    [[maybe_unused]] const auto written = write(bell, &once, sizeof once);
+  } else if (now - first > together) {
+    std::raise(request);
+  }
   errno = error;
 }
 
@@ -34,6 +51,7 @@ bool IsHandledBy(int request, void (*handler)(int)) {
 
 EndRequests::EndRequests(std::function<void()> save, std::function<void()> end)
     : end_(std::move(end)) {
+  firstAt = 0;
   bell = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
   auto *notifier = new QSocketNotifier(bell, QSocketNotifier::Read, this);
   connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {

@@ -10,9 +10,10 @@ class EndRequests : public QObject {
 
  public:
   /// end is called from the event loop, be it a dialog's or a pumped one, at the first request. A
-  /// second signal ends the process by its default action, whatever the process is doing. save is
-  /// called when the desktop is about to log out, which the user may yet cancel. SIGHUP stays
-  /// ignored where it was when the process started.
+  /// second signal ends the process by its default action, whatever the process is doing; but one
+  /// of another kind within a second is the same request, since the system's manager of sessions
+  /// sends SIGHUP right behind SIGTERM. save is called when the desktop is about to log out, which
+  /// the user may yet cancel. SIGHUP stays ignored where it was when the process started.
   EndRequests(std::function<void()> save, std::function<void()> end);
 
   /// Gives the signals their default action back.

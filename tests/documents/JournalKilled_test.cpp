@@ -25,7 +25,7 @@ struct KilledTest : testing::Test {
     for (const char *variable : {"TAGWRIGHT_FOLDER=", "XDG_STATE_HOME=", "XDG_RUNTIME_DIR="}) {
       words << variable + folder.path();
     }
-    program.start("env", words << TAGWRIGHT_PROGRAM << file);
+    program.start("env", words << before << TAGWRIGHT_PROGRAM << file);
     told.clear();
     EXPECT_TRUE(Hear(99, "ready"));
   }
@@ -62,6 +62,7 @@ struct KilledTest : testing::Test {
   const QTemporaryDir folder;
   const QString page = folder.filePath("page.html");
   const QByteArray bytes = "<p>\xA0one</p>\r\n<p>two</p>\r\n";
+  QStringList before;  // what the program is started through
   QProcess program;
   QMap<QByteArray, QByteArrayList> told;  // texts by name, from the one that was kept last on
 };
@@ -92,12 +93,21 @@ TEST_F(KilledTest, ASignalWritesTheJournalAndEndsTheProgram) {
   }
 }
 
+TEST_F(KilledTest, AJournalBeyondTheSizeOfFilesEndsNothing) {
+  PutFile(page, QByteArray("line\r\n").repeated(5000));
+  before = QStringList{"prlimit", "--fsize=16384"};
+  Start("hangup", page);
+  EXPECT_FALSE(Hear(INT_MAX, "-"));
+  program.waitForFinished();
+  EXPECT_TRUE(program.exitStatus() == QProcess::NormalExit && program.exitCode() == 0);
+}
+
 TEST_F(KilledTest, ASecondSignalEndsAProgramThatHangs) {
   Start("hang");
   ASSERT_TRUE(Hear(99, "hanging"));
+  for (const int request : {SIGTERM, SIGHUP}) kill(pid_t(program.processId()), request);
+  EXPECT_FALSE(program.waitForFinished(200)) << "both are one request, a session's end";
   kill(pid_t(program.processId()), SIGTERM);
-  EXPECT_FALSE(program.waitForFinished(200));
-  kill(pid_t(program.processId()), SIGHUP);
   EXPECT_TRUE(program.waitForFinished(60'000));
   EXPECT_EQ(program.exitStatus(), QProcess::CrashExit);
 }

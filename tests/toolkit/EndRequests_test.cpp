@@ -17,9 +17,7 @@ TEST(EndRequests, ASignalEndsEvenADialogAndTheNextOneHasItsDefaultAction) {
     const EndRequests requests([] {}, [&] { dialog.done(7); });
     QTimer::singleShot(0, [request] { std::raise(request); });
     EXPECT_EQ(dialog.exec(), 7);
-    for (const int next : {SIGTERM, SIGHUP, SIGINT}) {
-      EXPECT_EQ(std::signal(next, SIG_DFL), SIG_DFL) << request << ' ' << next;
-    }
+    EXPECT_EQ(std::signal(request, SIG_DFL), SIG_DFL);
   }
 }
 

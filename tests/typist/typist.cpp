@@ -84,7 +84,7 @@ class Typist : public QObject {
       Tell("hanging");
       for (;;) pause();
     } else if (role_ == QLatin1String("hangup")) {
-      std::raise(SIGHUP);
+      for (const int request : {SIGTERM, SIGHUP}) std::raise(request);  // as a session's end does
     }
   }
 
