@@ -26,6 +26,7 @@
 #include <tuple>
 
 #include "documents/FileCommands.h"
+#include "documents/JournalFile.h"
 #include "documents/mEditors.h"
 #include "frame/mPublic.h"
 #include "frame/mdiMain.h"
@@ -42,6 +43,7 @@ namespace {
 constexpr size_t remembered = 40;       // actions
 constexpr int manyDocuments = 12;       // from here on fewer are opened
 constexpr int stepsInOneFolder = 2000;  // what has grown in it goes then
+constexpr int stepsBetweenKills = 100;  // that are only thought of
 constexpr int shortLibrary = 60;        // stencils; all of them would take most of the time
 constexpr int nestedActionOneIn = 6;
 
@@ -106,6 +108,7 @@ Monkey::Monkey(const Plan &plan) : plan_(plan), dice_(plan.seed) {
 
 Monkey::~Monkey() {
   mForms::DestroyAll();
+  journal_.reset();
   SetEndProgram({});
   Dialogs::Set(nullptr);
   Programs::Set(nullptr);
@@ -160,6 +163,7 @@ void Monkey::Tick(int depth) {
   // What the toolkit's own timers have begun may pump or ask as well.
   if (!outermost || DoEventsRunning() || QThread::currentThread()->loopLevel() > 1) return;
   LookAround();
+  if (!ended_ && step_ % stepsBetweenKills == 0) LookIntoJournal();
   if (ended_ || step_ % stepsInOneFolder == 0) BeginAnew();
 }
 
@@ -184,6 +188,7 @@ void Monkey::Act() {
 
 void Monkey::Begin() {
   FillFolder();
+  journal_.emplace(plan_.folder + QStringLiteral("/journal"));
   ScriptedPrograms &programs = ScriptedPrograms::Install();
   if (dice_.OneIn(2)) programs.toFile = Programs::Application{QStringLiteral("viewer.desktop")};
   auto *main = Default<mdiMain>();
@@ -193,12 +198,35 @@ void Monkey::Begin() {
 
 void Monkey::BeginAnew() {
   Note(QStringLiteral("begin anew"));
+  journal_.reset();
   mForms::DestroyAll();
+  // As after a kill, which brings the texts back, or without what lay there.
+  if (dice_.OneIn(2)) QDir(plan_.folder + QStringLiteral("/journal")).removeRecursively();
   mPublic::aEditorState = {};
   mPublic::iActualEditor = 0;
   mPublic::bAppClosing = false;
   ended_ = false;
   Begin();
+}
+
+// What a kill would leave says the text of every document that has been changed.
+void Monkey::LookIntoJournal() {
+  journal_->WriteNow();
+  QStringList kept;
+  for (const QString &path : JournalFile::In(plan_.folder + QStringLiteral("/journal"))) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) continue;
+    const auto document = JournalRecords::Read(file);
+    if (document) kept << document->caption + u'\n' + document->text;
+  }
+  for (const auto &editor : mEditors::aEditorWindow) {
+    if (!editor || editor->IsUnloaded() || !editor->txthtml->document()->isModified()) continue;
+    const QString text =
+        editor->txthtml->Text().replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    if (!kept.contains(editor->Caption() + u'\n' + text)) {
+      Fail(QStringLiteral("the journal lacks ") + editor->Caption());
+    }
+  }
 }
 
 void Monkey::FillFolder() {

@@ -7,7 +7,9 @@
 #include <array>
 #include <deque>
 #include <functional>
+#include <optional>
 
+#include "documents/Journal.h"
 #include "monkey/Dice.h"
 
 class QAction;
@@ -52,6 +54,7 @@ class Monkey : public QObject {
 
   void Begin();
   void BeginAnew();
+  void LookIntoJournal();
   void FillFolder();
   void LookAround();
 
@@ -77,6 +80,7 @@ class Monkey : public QObject {
   QString AnyFile();
 
   const Plan plan_;
+  std::optional<Journal> journal_;
   Dice dice_;
   std::array<QTimer, 4> timers_;  ///< one a depth: a timer doesn't fire within itself
   int depth_ = -1;
