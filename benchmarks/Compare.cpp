@@ -18,6 +18,8 @@ namespace {
 
 constexpr int rounds = 7;
 
+bool allWithin = true;
+
 double Median(std::vector<double> values) {
   std::sort(values.begin(), values.end());
   return values[values.size() / 2];
@@ -41,14 +43,14 @@ void Print(const QString &what, const QString &unit, double limit, const Rounds 
   std::vector<double> pairs;
   std::transform(measured.ours.begin(), measured.ours.end(), measured.bare.begin(),
                  std::back_inserter(pairs), join);
-  QTextStream(stdout) << QStringLiteral("%1 %2 %3 %4  %5 %6  (at most %7)\n")
+  QTextStream(stdout) << QStringLiteral("%1 %2 %3 %4  %5 %6  %7\n")
                              .arg(what, -54)
                              .arg(Median(measured.ours), 9, 'f', 3)
                              .arg(Median(measured.bare), 9, 'f', 3)
                              .arg(unit, -2)
                              .arg(QLatin1String(joined))
                              .arg(Median(pairs), 6, 'f', 2)
-                             .arg(limit);
+                             .arg(Verdict(Median(pairs), limit));
 }
 
 double Ratio(double ours, double bare) {
@@ -99,6 +101,18 @@ Rounds RunRounds(const std::function<double()> &ours, const std::function<double
 }
 
 }  // namespace
+
+QString Verdict(double measured, double limit) {
+  const bool within = measured <= limit;
+  allWithin = allWithin && within;
+  return QStringLiteral("(at most %1)%2")
+      .arg(limit)
+      .arg(within ? QLatin1String() : QLatin1String(" EXCEEDED"));
+}
+
+bool AllWithinLimits() {
+  return allWithin;
+}
 
 QStringList OwnRole(const QStringList &arguments) {
   return QStringList{QCoreApplication::applicationFilePath()} + arguments;

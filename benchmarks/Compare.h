@@ -7,6 +7,12 @@
 /// This program, with a role to play instead of measuring.
 QStringList OwnRole(const QStringList &arguments);
 
+/// What a line says of its limit; remembers if it doesn't hold.
+QString Verdict(double measured, double limit);
+
+/// Whether every limit so far holds.
+bool AllWithinLimits();
+
 /// Runs both in turn, several times after a first round that doesn't count, and prints both medians
 /// and the median of the ratios of each round. Both return what is measured, in the given unit.
 void Compare(const QString &what, const QString &unit, double limit,

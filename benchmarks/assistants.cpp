@@ -136,6 +136,8 @@ void BenchInserting() {
       {"a link", Link(), [] { Insertion::ReplaceSelection(Link()); }},
       {"a rule", HorRuleText().Tag(), [] { Insertion::PutInFrontAndPass(HorRuleText().Tag()); }},
       {"meta tags", MetaBlock(), [] { Insertion::PutInFront(MetaBlock()); }},
+      {"a special character", QStringLiteral("&eacute;"),
+       [] { Insertion::ReplaceSelection(QStringLiteral("&eacute;")); }},
       {"a colour", QStringLiteral("#FF0000"),
        [] { Insertion::ReplaceSelection(QStringLiteral("#FF0000")); }},
       {"font settings", font.opening + font.closing,

@@ -1,6 +1,5 @@
 #include <QTemporaryDir>
 #include <algorithm>
-#include <ctime>
 
 #include "Compare.h"
 #include "Keys.h"
@@ -11,21 +10,12 @@ namespace {
 
 constexpr qsizetype large = 10 << 20;
 
-// Milliseconds that this thread has worked; what other programs take from it isn't counted.
-double Worked() {
-  timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
-}
-
 // Typing rests: the longest turn of the event loop until everything is on the disk.
 double LongestTurn(Journal &journal) {
   QMetaObject::invokeMethod(journal.timRest, "timeout");
   double longest = 0;
   while (journal.IsBusy()) {
-    const double before = Worked();
-    DoEvents();
-    longest = std::max(longest, Worked() - before);
+    longest = std::max(longest, 1000 * Seconds([] { DoEvents(); }));
   }
   return longest;
 }

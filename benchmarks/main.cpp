@@ -61,5 +61,5 @@ int main(int argc, char **argv) {
   if (wanted("compiler")) BenchCompiler();
   if (wanted("images")) BenchImages();
   mForms::DestroyAll();
-  return 0;
+  return AllWithinLimits() ? 0 : 1;
 }

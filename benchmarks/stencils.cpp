@@ -1,8 +1,10 @@
 #include <unistd.h>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QHash>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QTreeWidget>
 #include <cstdio>
 
@@ -89,6 +91,23 @@ void FillBare(QTreeWidget &tree, const QString &path) {
   }
 }
 
+// Fills the tree with events let through; the longest time in milliseconds that one had to wait.
+double LongestWait(KeyedTree &tree, const QString &path) {
+  QElapsedTimer clock;
+  qint64 longest = 0;
+  const auto taken = [&] { longest = std::max(longest, clock.nsecsElapsed()), clock.start(); };
+  QTimer click;
+  click.callOnTimeout(taken);
+  click.start(0);
+  clock.start();
+  FillStencilTree(tree, path, QStringLiteral("root"), [] {
+    DoEventsInLoop();
+    return true;
+  });
+  taken();
+  return double(longest) / 1e6;
+}
+
 void BenchTreeFill(const QString &path) {
   WriteLibrary(path, TreeKeys(library));
   KeyedTree &tree = *Default<mdiMain>()->trwStencils;
@@ -112,6 +131,9 @@ void BenchTreeFill(const QString &path) {
         });
       },
       [&] { return fill({}); });
+  WriteLibrary(path, TreeKeys(most));
+  Measure(QStringLiteral("longest wait for a click while 32,767 fill a tree"), QStringLiteral("ms"),
+          50, [&] { return LongestWait(tree, path); });
 }
 
 void BenchScans(const QString &path) {

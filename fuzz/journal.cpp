@@ -24,5 +24,10 @@ void Try(Input &input) {
   Require(document.has_value(), "a document with a name is found");
   // No bytes of chance have a sound digest.
   Require(document->text == text, "the text is that of the sound records");
+  for (QByteArray foreign : {behind, JournalRecords::Heading() + behind}) {
+    QBuffer file(&foreign);
+    file.open(QIODevice::ReadOnly);
+    Require(!JournalRecords::Read(file), "bytes of chance are no journal");
+  }
   Require(document->whole == (whole && behind.isEmpty()), "what is damaged is told");
 }
