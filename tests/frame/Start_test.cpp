@@ -1,5 +1,6 @@
 #include <QDir>
 
+#include "base/DataFiles.h"
 #include "frame/CommandLine.h"
 #include "frame/frmStart.h"
 #include "shared/FormsTest.h"
@@ -32,13 +33,24 @@ TEST_F(StartTest, TheSplashStandsUntilItsTimerOrAClick) {
 }
 
 TEST_F(StartTest, ADefectInstallationIsTold) {
-  PutFile(mFolders::InProgramFolder(u"sc.dat"_s), "x");
-  dialogs.answers = {Dialogs::Answer::Ok};
-  EXPECT_FALSE(Default<frmStart>()->MayStart());
-  EXPECT_EQ(dialogs.messages.join(u'#'),
-            u"Tagwright - Critical Message|The application installation of tagwright is defect, "
-            "please run the REPAIR-Function in Setup|0"_s);
-  EXPECT_EQ(mForms::Find(u"mdiMain"_s), nullptr);
+  for (int row = 0; row < TestedDataFiles; ++row) {
+    const QString path = mFolders::InProgramFolder(QLatin1String(DataFiles[size_t(row)].name));
+    const QByteArray whole = FileBytes(path);
+    for (const QByteArray &wrong : {whole.chopped(1), whole + 'x', QByteArray()}) {
+      PutFile(path, wrong);
+      EXPECT_TRUE(!wrong.isEmpty() || QFile::remove(path));
+      dialogs.answers = {Dialogs::Answer::Ok};
+      EXPECT_FALSE(Default<frmStart>()->MayStart()) << qPrintable(path) << ' ' << wrong.size();
+      EXPECT_EQ(mForms::Find(u"mdiMain"_s), nullptr);
+      mForms::DestroyAll();
+    }
+    PutFile(path, whole);
+  }
+  EXPECT_EQ(
+      dialogs.messages,
+      QStringList(3 * TestedDataFiles,
+                  u"Tagwright - Critical Message|The application installation of tagwright is "
+                  "defect, please run the REPAIR-Function in Setup|0"_s));
 }
 
 TEST_F(StartTest, StripsAreDrawnAndMissingUntestedFilesDoNoHarm) {
