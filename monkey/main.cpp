@@ -44,9 +44,10 @@ void Hangs(int) {
   _exit(1);
 }
 
-// What the toolkit warns of is a fault of ours, unless it is what this platform can't do, or a
-// mouse that strays out of a window that shrinks.
-void Message(QtMsgType type, const QMessageLogContext &, const QString &text) {
+// What the toolkit warns of is a fault of ours, unless it is what this platform can't do, a mouse
+// that strays out of a window that shrinks, or a picture that was saved as a text.
+void Message(QtMsgType type, const QMessageLogContext &context, const QString &text) {
+  if (QLatin1String(context.category).startsWith(QLatin1String("qt.gui.imageio"))) return;
   if (text.startsWith(QStringLiteral("This plugin does not support"))) return;
   if (text.contains(QStringLiteral("occurs outside target window"))) return;
   std::fprintf(stderr, "toolkit: %s\n", qPrintable(text));
