@@ -33,8 +33,9 @@ int main(int argc, char **argv) {
   SetCommandLine(CommandLineText(argc, argv));
   int programOnly = 1;
   QApplication application(programOnly, argv);
-  // A file beyond the size that the process may write is a write that fails, not its end.
-  std::signal(SIGXFSZ, SIG_IGN);
+  // A file beyond the size that the process may write is a write that fails, not its end. Heard
+  // rather than ignored: programs that are started would inherit that.
+  std::signal(SIGXFSZ, [](int) {});
   application.setWindowIcon(ProgramIcon());
   application.setQuitOnLastWindowClosed(false);
   Journal journal(JournalFolder(mFolders::ProgramFolder()), &application);
